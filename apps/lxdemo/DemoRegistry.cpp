@@ -1,0 +1,6 @@
+#include "DemoRegistry.h"
+
+DemoRegistry& DemoRegistry::Instance() {
+  static DemoRegistry registry;
+  return registry;
+}

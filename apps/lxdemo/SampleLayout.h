@@ -1,0 +1,40 @@
+// The demo's layout: a few layers and the objects drawn on them, lengths in nanometres.
+#pragma once
+
+#include <QColor>
+#include <QPointF>
+#include <QString>
+
+#include <vector>
+
+struct SampleLayer {
+  int number = 0;
+  QString name;
+  QColor color;
+};
+
+struct SampleObject {
+  enum Kind { Rectangle, Polygon, Wire, Circle, Ring, Box, Arc };
+  Kind kind = Rectangle;
+  int layer = 0;
+  std::vector<QPointF> nodes;  // corners, polygon or wire nodes, or the centre
+  double radius = 0;           // circles and rings
+  double width = 0;            // rings, wires and boxes
+  double length = 0;           // boxes
+  double angle = 0;            // boxes, degrees
+  int segments = 0;            // rings
+};
+
+class SampleLayout {
+ public:
+  SampleLayout();
+  std::vector<SampleLayer>& Layers() { return layers_; }
+  std::vector<SampleObject>& Objects() { return objects_; }
+  const SampleLayer* Layer(int number) const;
+  // The topmost object under a point (nanometres), or -1.
+  int ObjectAt(QPointF point, double tolerance) const;
+
+ private:
+  std::vector<SampleLayer> layers_;
+  std::vector<SampleObject> objects_;
+};
