@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   build-essential cmake ninja-build pkg-config clang-format
-  qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools libqt6svg6-dev
+  qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-svg-dev
   libqt6opengl6-dev libgl-dev libqscintilla2-qt6-dev
   libgtest-dev libgmock-dev libbenchmark-dev libmuparser-dev libboost-dev
   dbus dbus-x11 fonts-dejavu-core
