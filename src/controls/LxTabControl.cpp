@@ -183,8 +183,10 @@ void TLxTabControl::mouseReleaseEvent(QMouseEvent* event) {
 void TLxTabControl::keyPressEvent(QKeyEvent* event) {
   const int count = static_cast<int>(Tabs.size());
   int target = -1;
-  if (event->key() == Qt::Key_Left && TabIndex > 0) target = std::min(TabIndex, count) - 1;
-  if (event->key() == Qt::Key_Right && TabIndex + 1 < count) target = std::max(TabIndex + 1, 0);
+  if (count > 0 && event->key() == Qt::Key_Left && TabIndex > 0)
+    target = std::min(TabIndex, count) - 1;
+  if (count > 0 && event->key() == Qt::Key_Right && TabIndex + 1 < count)
+    target = std::max(TabIndex + 1, 0);
   if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right) {
     QWidget::keyPressEvent(event);
     return;
