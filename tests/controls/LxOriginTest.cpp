@@ -73,6 +73,12 @@ TEST(TLxOrigin, MouseNotifiesOnlyOnAChange) {
   EXPECT_EQ(s.changes.count(), 2);
 }
 
+TEST(TLxOrigin, AClickWithoutAPriorMovePicksTheCellUnderIt) {
+  Selector s;
+  QTest::mouseClick(s.origin, Qt::LeftButton, Qt::NoModifier, QPoint(70, 40));
+  EXPECT_EQ(s.origin->GetSelectedButton(), 6);
+}
+
 TEST(TLxOrigin, PressTakesTheFocusAndShowsTheCellPressedUntilRelease) {
   Selector s;
   QTest::mousePress(s.origin, Qt::RightButton, Qt::NoModifier, QPoint(80, 80));

@@ -68,8 +68,11 @@ TEST(TLxTabControl, OnlyAClickOnAnotherTabNotifies) {
   EXPECT_EQ(t.changes.first().first().value<QObject*>(), t.tabs);
   t.Click(t.Left(1) + 5);
   EXPECT_EQ(t.changes.count(), 1);
+  QTest::mouseClick(t.tabs, Qt::LeftButton, Qt::NoModifier, QPoint(3, 5));  // no move first
+  EXPECT_EQ(t.tabs->GetTabIndex(), 0);
+  EXPECT_EQ(t.changes.count(), 2);
   t.tabs->SetTabIndex(2);
-  EXPECT_EQ(t.changes.count(), 1);
+  EXPECT_EQ(t.changes.count(), 2);
   EXPECT_EQ(t.tabs->accessibleDescription(), "Grid");
 }
 
