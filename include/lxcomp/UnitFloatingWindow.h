@@ -1,0 +1,31 @@
+// The small tool window that holds the buttons of a toolbar torn off its dock.
+#pragma once
+
+#include <QWidget>
+
+namespace lx {
+
+class TLxButtonPanel;
+
+class TLxFloatingToolWindow : public QWidget {
+  Q_OBJECT
+ public:
+  // `strip` is the toolbar strip whose buttons the window shows while floating.
+  explicit TLxFloatingToolWindow(TLxButtonPanel* strip);
+  TLxButtonPanel* GetStrip() const { return Strip; }
+  // Sets the client area and keeps it from being resized by the user.
+  void SetClientSize(int width, int height);
+
+ protected:
+  void moveEvent(QMoveEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  TLxButtonPanel* Strip;
+};
+
+namespace UnitFloatingWindow {
+void Register();
+}
+
+}  // namespace lx
