@@ -367,6 +367,7 @@ class TLxDockPanel : public QWidget {
   int StatusHeight = 18;
   TLxButtonPanel* GuestPanel = nullptr;
   int TabClientWidth = 0;
+  int LastSize = -1;  // the button size of the last SetSize
 
   double XValue = 1e6;
   double YValue = 1e6;

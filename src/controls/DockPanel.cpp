@@ -206,6 +206,7 @@ bool TLxDockPanel::CanDockAt(int x, int y) const {
 }
 
 void TLxDockPanel::SetSize(int size) {
+  LastSize = size;
   // An empty dock keeps one pixel (and a bottom dock its status line).
   const int thickness = std::max(size + 1, 1);
   if (Horizontal)

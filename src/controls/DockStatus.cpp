@@ -183,13 +183,7 @@ void TLxDockPanel::UpdateStatusScale() {
   StatusHeight = static_cast<int>(EffectiveScale * 18.0 + 0.5);
   if (!IsLoaded) return;
   // The dock's height follows; not from inside the paint.
-  QTimer::singleShot(0, this, [this] {
-    int size = -1;
-    for (int i = 0; i < ToolBars->Count() && size < 0; ++i)
-      if (!ToolBars->Items(i)->GetPanel()->isHidden())
-        ToolBars->Items(i)->GetPanel()->GetActualButtonSize(size);
-    SetSize(size);
-  });
+  QTimer::singleShot(0, this, [this] { SetSize(LastSize); });
 }
 
 void TLxDockPanel::Paint(QPainter& painter) {
