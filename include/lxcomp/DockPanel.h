@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "lxcomp/LxAlign.h"
+#include "lxcomp/UnitFloatingWindow.h"
 
 class QPainter;
 class QStyle;
@@ -29,7 +30,6 @@ namespace lx {
 class TLxDockPanel;
 class TLxButtonPanel;
 class TLxToolBarPanel;
-class TLxFloatingToolWindow;
 
 enum TLxButtonType { lxNormalButton, lxDropDown, lxSeparator, lxMenu, lxCheckButton };
 
@@ -214,7 +214,7 @@ class TLxButtonPanel : public QWidget {
   int ButtonHeight = 24;
   int GripSize = 8;
   bool Horizontal = true;
-  TLxFloatingToolWindow* FloatingWindow = nullptr;
+  QPointer<TLxFloatingToolWindow> FloatingWindow;
   bool Floating = false;
   QPointer<TLxDockPanel> GuestDock;
   TLxToolBarPanel* ToolBar = nullptr;
