@@ -185,6 +185,9 @@ class TLxButtonPanel : public QWidget {
   void InitializeButtons();
   // Length of the grip before the first button.
   int GripLength() const;
+  // Lays the buttons of a floating strip out in its window at the given button size; the
+  // client area is (buttons x width) x height, or the row's length when that is longer.
+  void LayOutFloatingWindow(int buttonWidth, int buttonHeight);
 
   // Mouse handling; points in screen coordinates.
   void MouseDown(Qt::MouseButton button, QPoint screen);

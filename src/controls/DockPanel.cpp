@@ -258,11 +258,9 @@ void TLxDockPanel::Loaded() {
     Horizontal = width() > height();
   for (int i = 0; i < ToolBars->Count(); ++i) {
     TLxButtonPanel* strip = ToolBars->Items(i)->GetPanel();
-    if (TLxFloatingToolWindow* window = strip->GetFloatingWindow()) {
-      window->SetClientSize(
-          static_cast<int>(strip->GetButtons()->Count() * ButtonWidth * ScaleFactor),
-          static_cast<int>(ButtonHeight * ScaleFactor));
-    }
+    if (strip->GetFloatingWindow())
+      strip->LayOutFloatingWindow(static_cast<int>(ButtonWidth * ScaleFactor),
+                                  static_cast<int>(ButtonHeight * ScaleFactor));
     strip->SetHorizontal(Horizontal);
     strip->AdjustSizeToButtons();
     if (!IsLoaded) strip->InitializeButtons();

@@ -310,6 +310,19 @@ void TLxButtonPanel::LayOutFloatingButtons(int size) {
   FloatingWindow->SetClientSize(x, size);
 }
 
+void TLxButtonPanel::LayOutFloatingWindow(int buttonWidth, int buttonHeight) {
+  if (!FloatingWindow) return;
+  int x = 0;
+  for (TLxButton* button : ButtonControls()) {
+    const int extent = docklayout::ButtonExtent(button->GetButtonType(), buttonWidth, buttonWidth);
+    button->setParent(FloatingWindow);
+    button->setGeometry(x, 0, extent, buttonHeight);
+    button->show();
+    x += extent;
+  }
+  FloatingWindow->SetClientSize(std::max(x, Buttons->Count() * buttonWidth), buttonHeight);
+}
+
 void TLxButtonPanel::MakeFloating(int x, int y, bool show) {
   TLxDockPanel* dock = GetDock();
   if (!dock) return;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCursor>
 #include <QMouseEvent>
 #include <QScreen>
 #include <QSettings>
@@ -11,6 +12,7 @@
 #include <memory>
 
 #include "lxcomp/DockPanel.h"
+#include "lxcomp/LxRegistry.h"
 #include "lxcomp/UnitFloatingWindow.h"
 #include "support/TempDir.h"
 
@@ -265,6 +267,49 @@ TEST_F(DockTest, HidingAFloatingToolbarHidesItsWindow) {
   EXPECT_TRUE(file->GetPanel()->GetFloatingWindow()->isVisible());
   file->GetPanel()->GetFloatingWindow()->close();
   EXPECT_FALSE(file->GetVisible());
+}
+
+TEST_F(DockTest, DraggingAFloatingWindowOntoADockDocksIt) {
+  Load();
+  TLxButtonPanel* file = Strip("File");
+  file->MakeFloating(400, 400, true);
+  const QPoint overLeft = host->mapToGlobal(QPoint(10, 150));
+  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));  // holds the button
+  QCursor::setPos(overLeft);
+  file->GetFloatingWindow()->move(overLeft);
+  QApplication::processEvents();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+  TLxToolBarPanel* moved = top->GetToolBar("File");
+  ASSERT_NE(moved, nullptr);
+  EXPECT_EQ(moved->GetDock(), left);
+  EXPECT_FALSE(moved->GetPanel()->isHidden());
+}
+
+TEST_F(DockTest, ReloadingRelaysAFloatingWindow) {
+  Load();
+  TLxButtonPanel* edit = Strip("Edit");
+  edit->MakeFloating(300, 300, true);
+  top->SetScaleFactor(2.0f);
+  top->Loaded();
+  EXPECT_EQ(edit->GetFloatingWindow()->size(), QSize(4 * 48, 48));
+  EXPECT_EQ(edit->GetButtons()->Items(1)->GetButton()->geometry(), QRect(48, 0, 64, 48));
+}
+
+TEST(RegisterTest, ControlsAreOnThePalette) {
+  RegisterAllComponents();
+  for (const char* name :
+       {"TLxDockPanel", "TLxButtonPanel", "TLxMenuPanel", "TLxFloatingToolWindow"}) {
+    const auto& palette = RegisteredComponents();
+    const auto entry = std::find_if(palette.begin(), palette.end(), [&](const auto& e) {
+      return e.Class.ClassName == QLatin1String(name);
+    });
+    ASSERT_NE(entry, palette.end()) << name;
+    EXPECT_EQ(entry->Page, "Quarnel");
+    if (!entry->Class.Create) continue;
+    std::unique_ptr<QWidget> widget(entry->Class.Create(nullptr));
+    EXPECT_STREQ(widget->metaObject()->className(), (std::string("lx::") + name).c_str());
+  }
 }
 
 TEST_F(DockTest, DockToABottomDockTakesPosAsY) {
