@@ -170,8 +170,7 @@ QMenu* DemoHost::AddMenu(const QString& title) {
   const int index = menuBar_->GetMenus()->Count() - 1;
   const int marker = title.indexOf(QLatin1Char('&'));
   if (marker >= 0 && marker + 1 < title.size()) {
-    auto* shortcut =
-        new QShortcut(QKeySequence(Qt::ALT | QKeySequence(title[marker + 1])[0].key()), this);
+    auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Alt+") + title[marker + 1]), this);
     connect(shortcut, &QShortcut::activated, menuBar_, [this, index] { menuBar_->DoMenu(index); });
   }
   return popup;

@@ -217,11 +217,7 @@ void TLxDockPanel::SetSize(int size) {
 
 void TLxDockPanel::Show() {
   int size = -1;
-  if (ToolBars->Count() > 0) {
-    const TLxButtonPanel* strip = ToolBars->Items(0)->GetPanel();
-    if (strip->GetActualButtonSize(size) == 0)
-      size = strip->GetHorizontal() ? strip->height() : strip->width();
-  }
+  if (ToolBars->Count() > 0) ToolBars->Items(0)->GetPanel()->GetActualButtonSize(size);
   SetSize(size);
   setVisible(true);
 }

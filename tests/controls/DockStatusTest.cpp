@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QPaintEvent>
+#include <QPainter>
+#include <QStyle>
 #include <QTest>
 
 #include <memory>
@@ -59,6 +61,27 @@ TEST(PrintGridvalTest, EveryForm) {
   wchar_t shortOut[8];
   PrintGridval(L"grid: ", 1000, 500, 2000, 3000, shortOut, 8);
   EXPECT_EQ(QString::fromWCharArray(shortOut), "grid: 1");
+}
+
+TEST(DrawRotatedElementTest, DrawsAcrossInsteadOfAlong) {
+  QImage image(60, 60, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  DrawRotatedElement(&painter, QApplication::style(), QStyle::PE_IndicatorToolBarHandle, 10, 5, 40,
+                     12);
+  DrawRotatedElement(&painter, nullptr, QStyle::PE_IndicatorToolBarHandle, 0, 0, 40, 12);
+  DrawRotatedElement(&painter, QApplication::style(), QStyle::PE_IndicatorToolBarHandle, 0, 0, 0,
+                     0);
+  painter.end();
+  const QRect turned(10, 5, 12, 40);
+  int drawn = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (qAlpha(image.pixel(x, y)) != 0) {
+        ++drawn;
+        EXPECT_TRUE(turned.contains(x, y)) << x << "," << y;
+      }
+  EXPECT_GT(drawn, 0);
 }
 
 // Records the paint events of a widget.
