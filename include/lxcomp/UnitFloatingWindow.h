@@ -1,6 +1,7 @@
 // The small tool window that holds the buttons of a toolbar torn off its dock.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 namespace lx {
@@ -15,6 +16,8 @@ class TLxFloatingToolWindow : public QWidget {
   TLxButtonPanel* GetStrip() const { return Strip; }
   // Sets the client area and keeps it from being resized by the user.
   void SetClientSize(int width, int height);
+  // Docks the toolbar when the window was dropped with the mouse (screen point) over a dock.
+  void DockWhereDropped(QPoint mouse);
 
  protected:
   void moveEvent(QMoveEvent* event) override;
@@ -22,6 +25,7 @@ class TLxFloatingToolWindow : public QWidget {
 
  private:
   TLxButtonPanel* Strip;
+  QTimer Settle;  // a move has ended when no other follows within its interval
 };
 
 namespace UnitFloatingWindow {

@@ -529,7 +529,7 @@ void TLxButtonPanel::DragGuest(QPoint screen) {
   guest->update();
 }
 
-void TLxButtonPanel::MouseUp(Qt::MouseButton, QPoint) {
+void TLxButtonPanel::MouseUp(Qt::MouseButton, QPoint screen) {
   MouseIsDown = false;
   if (!Dragging) return;
   Dragging = false;
@@ -538,6 +538,9 @@ void TLxButtonPanel::MouseUp(Qt::MouseButton, QPoint) {
     guest->SetGuestPanel(nullptr);
     GuestDock = nullptr;
     RemoveFromOwnDock();  // the copy in the guest dock stays
+  } else if (Floating && FloatingWindow) {
+    // Torn off and dropped back onto its own dock: it docks there again.
+    FloatingWindow->DockWhereDropped(screen);
   }
 }
 

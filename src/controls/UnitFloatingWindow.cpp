@@ -2,8 +2,6 @@
 
 #include <QCloseEvent>
 #include <QCursor>
-#include <QGuiApplication>
-#include <QTimer>
 
 #include "lxcomp/DockPanel.h"
 #include "lxcomp/LxPlatform.h"
@@ -15,6 +13,9 @@ TLxFloatingToolWindow::TLxFloatingToolWindow(TLxButtonPanel* strip)
     : QWidget(strip, Qt::Tool | Qt::WindowCloseButtonHint | Qt::WindowTitleHint), Strip(strip) {
   setAttribute(Qt::WA_DeleteOnClose, false);
   setAutoFillBackground(true);
+  Settle.setSingleShot(true);
+  Settle.setInterval(250);
+  connect(&Settle, &QTimer::timeout, this, [this] { DockWhereDropped(QCursor::pos()); });
   // As a child of the strip, Qt makes it a transient of the main form: it floats above it.
 }
 
@@ -23,16 +24,17 @@ void TLxFloatingToolWindow::SetClientSize(int width, int height) {
 }
 
 void TLxFloatingToolWindow::moveEvent(QMoveEvent*) {
-  // The user drags the window by its title bar: over a dock, the toolbar docks there.
-  if (!Strip || Strip->GetDragging() || !isVisible()) return;
-  if (!(QGuiApplication::mouseButtons() & Qt::LeftButton)) return;
-  const QPoint cursor = QCursor::pos();
+  // The window manager moves the window while the user drags its title bar; the toolbar docks
+  // when the moves stop with the mouse over a dock.
+  if (Strip && !Strip->GetDragging() && isVisible()) Settle.start();
+}
+
+void TLxFloatingToolWindow::DockWhereDropped(QPoint cursor) {
+  if (!Strip || Strip->GetDragging() || !Strip->IsFloating() || !isVisible()) return;
+  // Only a drop by the user: the mouse holds the window (its title bar or its body).
+  if (!frameGeometry().adjusted(-8, -8, 8, 8).contains(cursor)) return;
   TLxDockPanel* dock = TLxButtonPanel::FindDock(cursor.x(), cursor.y());
-  if (!dock || !dock->GetIsLoaded()) return;
-  QPointer<TLxButtonPanel> strip = Strip;
-  QTimer::singleShot(0, strip, [strip, dock = QPointer<TLxDockPanel>(dock), cursor] {
-    if (strip && dock && strip->IsFloating()) strip->MakeDocked(dock, cursor.x(), cursor.y());
-  });
+  if (dock && dock->GetIsLoaded()) Strip->MakeDocked(dock, cursor.x(), cursor.y());
 }
 
 void TLxFloatingToolWindow::closeEvent(QCloseEvent* event) {

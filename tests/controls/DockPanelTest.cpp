@@ -200,6 +200,23 @@ TEST_F(DockTest, DraggingOutOfTheDockFloatsTheToolbar) {
   Q_UNUSED(start);
 }
 
+TEST_F(DockTest, ATornOffToolbarDroppedOnItsDockDocksAgain) {
+  Load();
+  TLxButtonPanel* edit = Strip("Edit");
+  const QPoint start = PressGrip(edit);
+  DragTo(host->mapToGlobal(QPoint(300, 200)));
+  ASSERT_TRUE(edit->IsFloating());
+  const QPoint back = host->mapToGlobal(QPoint(400, 10));
+  DragTo(back);
+  EXPECT_TRUE(edit->IsFloating()) << "its own dock takes no guest";
+  Release(back);
+  EXPECT_FALSE(edit->IsFloating());
+  EXPECT_FALSE(edit->isHidden());
+  EXPECT_EQ(edit->pos(), QPoint(400, 0));
+  EXPECT_FALSE(edit->GetFloatingWindow()->isVisible());
+  Q_UNUSED(start);
+}
+
 TEST_F(DockTest, DraggingIntoAnotherDockMovesTheToolbarThere) {
   Load();
   TLxButtonPanel* edit = Strip("Edit");
@@ -269,21 +286,32 @@ TEST_F(DockTest, HidingAFloatingToolbarHidesItsWindow) {
   EXPECT_FALSE(file->GetVisible());
 }
 
-TEST_F(DockTest, DraggingAFloatingWindowOntoADockDocksIt) {
+TEST_F(DockTest, AFloatingWindowDroppedOnADockDocksThere) {
   Load();
   TLxButtonPanel* file = Strip("File");
   file->MakeFloating(400, 400, true);
   const QPoint overLeft = host->mapToGlobal(QPoint(10, 150));
-  QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));  // holds the button
   QCursor::setPos(overLeft);
-  file->GetFloatingWindow()->move(overLeft);
-  QApplication::processEvents();
+  file->GetFloatingWindow()->move(overLeft - QPoint(5, 5));
+  QTest::qWait(100);
+  EXPECT_EQ(top->GetToolBar("File")->GetDock(), top) << "still moving";
+  QTest::qWait(400);
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QTest::mouseRelease(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
   TLxToolBarPanel* moved = top->GetToolBar("File");
   ASSERT_NE(moved, nullptr);
   EXPECT_EQ(moved->GetDock(), left);
   EXPECT_FALSE(moved->GetPanel()->isHidden());
+}
+
+TEST_F(DockTest, AFloatingWindowMovedByTheProgramStaysFloating) {
+  Load();
+  TLxButtonPanel* file = Strip("File");
+  file->MakeFloating(400, 400, true);
+  QCursor::setPos(host->mapToGlobal(QPoint(10, 150)));
+  file->GetFloatingWindow()->move(host->mapToGlobal(QPoint(300, 150)));
+  QTest::qWait(400);
+  EXPECT_TRUE(file->IsFloating());
+  EXPECT_EQ(top->GetToolBar("File")->GetPanel(), file);
 }
 
 TEST_F(DockTest, ReloadingRelaysAFloatingWindow) {
