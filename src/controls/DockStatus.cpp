@@ -121,7 +121,8 @@ void TLxDockPanel::SetScaleFactor(float factor) {
 void TLxDockPanel::SetStatusMessage(const QString& text) {
   if (text == StatusMessage) return;
   StatusMessage = text;
-  update(ProgressRect());
+  // The message field reaches a quarter field height past the progress band: both go.
+  update(ProgressRect().united(MessageRect()));
 }
 
 void TLxDockPanel::SetProgress(int percent) {

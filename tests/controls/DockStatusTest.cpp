@@ -156,7 +156,7 @@ TEST_F(StatusTest, SettersRepaintOnlyTheirFieldWhenTheValueChanges) {
   EXPECT_TRUE(spy->Take().isEmpty());
 
   dock->SetStatusMessage("Ready");
-  EXPECT_EQ(spy->Take().boundingRect(), dock->ProgressRect());
+  EXPECT_EQ(spy->Take().boundingRect(), dock->ProgressRect().united(dock->MessageRect()));
   dock->SetStatusMessage("Ready");
   EXPECT_TRUE(spy->Take().isEmpty());
 }
