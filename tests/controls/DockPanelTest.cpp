@@ -502,6 +502,16 @@ TEST_F(SavedLayoutTest, RestoreIntoAVerticalDockRescalesByWidth) {
   EXPECT_EQ(tall->GetPanel()->pos(), QPoint(0, 150));
 }
 
+TEST_F(SavedLayoutTest, RestoreIntoAnotherDockFromATallerScreenStaysInside) {
+  Load();
+  Write("Edit", {{"dockpanel", 1}, {"docked", 1}, {"top", 5000}, {"width", 25}, {"height", 96}});
+  EXPECT_TRUE(top->GetToolBar("Edit")->RestoreState(store, "Edit"));
+  TLxToolBarPanel* edit = top->GetToolBar("Edit");
+  ASSERT_EQ(edit->GetDock(), left);
+  EXPECT_EQ(edit->GetPanel()->geometry(), QRect(0, left->height() - 96, 25, 96));
+  EXPECT_EQ(top->GetToolBars()->Count(), 1);
+}
+
 TEST_F(SavedLayoutTest, RestoreFromAnotherScreenKeepsTheWindowOnScreen) {
   Load();
   Write("Edit", {{"dockpanel", 3}, {"docked", 0}, {"left", 50000}, {"top", -300}});
