@@ -1,9 +1,12 @@
 // Calls each control unit's Register(). Every new control unit adds its call here.
+#include "lxcomp/DockPanel.h"
 #include "lxcomp/LxButtonGroupBox.h"
 #include "lxcomp/LxOnOffButton.h"
 #include "lxcomp/LxOrigin.h"
 #include "lxcomp/LxRegistry.h"
 #include "lxcomp/LxTabControl.h"
+#include "lxcomp/MenuPanel.h"
+#include "lxcomp/UnitFloatingWindow.h"
 
 namespace lx {
 
@@ -12,6 +15,9 @@ void RegisterAllComponents() {
   LxButtonGroupBox::Register();
   LxOrigin::Register();
   LxTabControl::Register();
+  DockPanel::Register();
+  MenuPanel::Register();
+  UnitFloatingWindow::Register();
 }
 
 }  // namespace lx
