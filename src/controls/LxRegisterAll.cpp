@@ -3,6 +3,7 @@
 #include "lxcomp/LxButtonGroupBox.h"
 #include "lxcomp/LxOnOffButton.h"
 #include "lxcomp/LxOrigin.h"
+#include "lxcomp/LxProgress.h"
 #include "lxcomp/LxRegistry.h"
 #include "lxcomp/LxTabControl.h"
 #include "lxcomp/MenuPanel.h"
@@ -15,6 +16,7 @@ void RegisterAllComponents() {
   LxButtonGroupBox::Register();
   LxOrigin::Register();
   LxTabControl::Register();
+  LxProgress::Register();
   DockPanel::Register();
   MenuPanel::Register();
   UnitFloatingWindow::Register();
