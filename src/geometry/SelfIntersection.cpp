@@ -7,6 +7,8 @@
 // split of the edge boxes rather than from all n^2 pairs. Then one horizontal line per gap between
 // consecutive event values is checked for a region of winding number 2 or more, with an active
 // edge list that carries each line's crossing order on to the next line.
+#include "geometry/SelfIntersection.h"
+
 #include "lxcomp/LxGeometry.h"
 #include "lxcomp/LxPolygon.h"
 
@@ -304,15 +306,20 @@ class WindingSweep {
 
 }  // namespace
 
-bool SelfIntersectingPolygon(const double* nodes, unsigned int count) {
-  if (count < 4 || !nodes) return false;
+SelfIntersection ClassifySelfIntersection(const double* nodes, unsigned int count) {
+  if (count < 4 || !nodes) return SelfIntersection::None;
   const PolygonView polygon(nodes, count);
   std::vector<double> events;
   events.reserve(count + 16);
   for (unsigned i = 0; i + 1 < count; ++i)
     events.push_back(polygon.Y(i));
-  if (PairSearch(polygon, events).FindForbiddenContact()) return true;
-  return WindingSweep(polygon).CoversTwice(events);
+  if (PairSearch(polygon, events).FindForbiddenContact()) return SelfIntersection::ForbiddenContact;
+  if (WindingSweep(polygon).CoversTwice(events)) return SelfIntersection::CoveredTwice;
+  return SelfIntersection::None;
+}
+
+bool SelfIntersectingPolygon(const double* nodes, unsigned int count) {
+  return ClassifySelfIntersection(nodes, count) != SelfIntersection::None;
 }
 
 }  // namespace lx
