@@ -97,44 +97,43 @@ inline void Close(Nodes& p) {
   }
 }
 
-// A simple polygon: nodes at sorted random angles around the origin with radii from `radius`.
+// A simple polygon: one node at a random angle in each of `count` equal sectors around the
+// origin (so neighbours never come too close), at a radius from `radius`, rounded to whole
+// nanometres as layout coordinates are.
 template <typename Radius>
 Nodes StarPolygon(std::mt19937& rng, unsigned count, Radius radius) {
-  std::uniform_real_distribution<double> turn(0, 2 * M_PI);
-  std::vector<double> angles(count);
-  for (double& a : angles)
-    a = turn(rng);
-  std::sort(angles.begin(), angles.end());
+  std::uniform_real_distribution<double> within(0.1, 0.9);
   Nodes p;
   p.reserve(2 * count + 2);
-  for (double a : angles) {
+  for (unsigned i = 0; i < count; ++i) {
+    const double a = (i + within(rng)) * 2 * M_PI / count;
     const double r = radius(a);
-    p.push_back(r * std::cos(a));
-    p.push_back(r * std::sin(a));
+    p.push_back(std::round(r * std::cos(a)));
+    p.push_back(std::round(r * std::sin(a)));
   }
   Close(p);
   return p;
 }
 
-// A random star with a smooth random outline: radius 1e6 nm modulated by a few random waves, plus
-// a little jitter per node. Simple, like the outlines of a layout.
+// A random star with a smooth random outline: radius 1e8 nm modulated by a few random waves,
+// plus a little jitter per node. Simple, like the outlines of a layout.
 inline Nodes SmoothStar(std::mt19937& rng, unsigned count) {
   std::uniform_real_distribution<double> unit(0, 1);
   double amp[5], phase[5];
   for (int w = 0; w < 5; ++w)
     amp[w] = 0.06 * unit(rng), phase[w] = 2 * M_PI * unit(rng);
-  const double jitter = 1e6 * 2 * M_PI / count * 0.5;
+  const double jitter = 1e8 * 2 * M_PI / count * 0.5;
   return StarPolygon(rng, count, [&](double a) {
-    double r = 1e6;
+    double r = 1e8;
     for (int w = 0; w < 5; ++w)
-      r += 1e6 * amp[w] * std::sin((w + 2) * a + phase[w]);
+      r += 1e8 * amp[w] * std::sin((w + 2) * a + phase[w]);
     return r + jitter * (unit(rng) - 0.5);
   });
 }
 
 // A star whose radii are independent: every edge is a long spike.
 inline Nodes SpikyStar(std::mt19937& rng, unsigned count) {
-  std::uniform_real_distribution<double> radius(5e5, 1e6);
+  std::uniform_real_distribution<double> radius(5e7, 1e8);
   return StarPolygon(rng, count, [&](double) { return radius(rng); });
 }
 
