@@ -9,6 +9,11 @@ enum class SelfIntersection {
   CoveredTwice,      // a horizontal line finds a region of winding number 2 or more
 };
 
-SelfIntersection ClassifySelfIntersection(const double* nodes, unsigned int count);
+// How meeting pairs of edges are found: a sweep over the edges' y extents that hands over to a
+// recursive split of the edge boxes when many edges span the same heights, or the split alone.
+enum class PairSearchMode { Automatic, SplitOnly };
+
+SelfIntersection ClassifySelfIntersection(const double* nodes, unsigned int count,
+                                          PairSearchMode mode = PairSearchMode::Automatic);
 
 }  // namespace lx

@@ -172,6 +172,44 @@ TEST(WildPolygons, NotANumberInfinityAndTinyCountsGiveFixedResults) {
   EXPECT_EQ(lx::PolyClipLeft(nan.data(), 0, 1), 0u);
 }
 
+// A base bar with `teeth` fingers of equal height: every finger edge spans the same heights, so
+// the open-edge sweep hands over to the box split.
+Nodes Comb(unsigned teeth, double height) {
+  Nodes p = {0, 0, 20.0 * teeth, 0, 20.0 * teeth, 10};
+  for (unsigned t = teeth; t-- > 0;)
+    p.insert(p.end(),
+             {20.0 * t + 15, 10, 20.0 * t + 15, height, 20.0 * t + 5, height, 20.0 * t + 5, 10});
+  p.insert(p.end(), {0, 10});
+  lxtest::Close(p);
+  return p;
+}
+
+TEST(SelfIntersection, ManyEdgesSpanningTheSameHeights) {
+  struct Case {
+    const char* name;
+    Nodes nodes;
+    SelfIntersection verdict;
+  };
+  Nodes touching = Comb(300, 1000);
+  touching[2 * 200] += 10;  // one finger leans onto its neighbour's edge
+  Nodes crossing = Comb(300, 1000);
+  crossing[2 * 200] += 15;  // and through it
+  const Case cases[] = {
+      {"comb", Comb(300, 1000), SelfIntersection::None},
+      {"finger touching its neighbour", touching, SelfIntersection::None},
+      {"finger crossing its neighbour", crossing, SelfIntersection::ForbiddenContact}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const unsigned n = Count(c.nodes);
+    EXPECT_EQ(lxtest::ReferenceSelfIntersection(c.nodes.data(), n), c.verdict);
+    EXPECT_EQ(lx::ClassifySelfIntersection(c.nodes.data(), n), c.verdict);
+    EXPECT_EQ(lx::ClassifySelfIntersection(c.nodes.data(), n, lx::PairSearchMode::SplitOnly),
+              c.verdict);
+  }
+  EXPECT_DOUBLE_EQ(lx::signed_polygonarea(Comb(300, 1000).data(), Count(Comb(300, 1000))),
+                   (6000.0 * 10 + 300 * 10.0 * 990) / 1e6);
+}
+
 // --- Random agreement corpus between the fast test and the quadratic reference -------------
 
 Nodes RandomPoints(std::mt19937& rng, unsigned n, int span) {
@@ -287,6 +325,8 @@ TEST(SelfIntersectionCorpus, FastTestAgreesWithTheQuadraticReference) {
     const SelfIntersection want = lxtest::ReferenceSelfIntersection(p.data(), n);
     ASSERT_EQ(lx::ClassifySelfIntersection(p.data(), n), want)
         << "round " << round << ", " << n << " nodes";
+    ASSERT_EQ(lx::ClassifySelfIntersection(p.data(), n, lx::PairSearchMode::SplitOnly), want)
+        << "round " << round << ", " << n << " nodes, split only";
     ++seen[want];
     ++checked;
   }
