@@ -31,8 +31,8 @@ class PolygonView {
   PolygonView(const double* nodes, unsigned count)
       : nodes_(nodes), count_(count), anyNaN_(AnyNaN()) {}
   unsigned Count() const { return count_; }
-  double X(unsigned node) const { return nodes_[2 * node]; }
-  double Y(unsigned node) const { return nodes_[2 * node + 1]; }
+  double X(unsigned node) const { return nodes_[2 * size_t{node}]; }
+  double Y(unsigned node) const { return nodes_[2 * size_t{node} + 1]; }
   bool SameNode(unsigned a, unsigned b) const { return X(a) == X(b) && Y(a) == Y(b); }
   bool IsAt(unsigned node, double x, double y) const { return X(node) == x && Y(node) == y; }
   // Edge k runs from StartOf(k) to node k; edge 0 is the closing edge from the last node.
