@@ -320,8 +320,9 @@ class PairSearch {
 
 struct Crossing {
   double x;
-  bool upward;
+  double upperY;  // the edge leaves the sweep once a line reaches this
   unsigned edge;
+  bool upward;
 };
 
 // Ascending x, downward before upward at equal x; not-a-number x last, so the order is total.
@@ -358,13 +359,6 @@ class WindingSweep {
   }
 
  private:
-  // Sets the crossing's direction; false when the edge does not pass strictly through the line.
-  bool Passes(Crossing& c, double line) const {
-    const double y0 = polygon_.Y(polygon_.StartOf(c.edge)), y1 = polygon_.Y(c.edge);
-    c.upward = y0 < line && line < y1;
-    return c.upward || (y0 > line && line > y1);
-  }
-
   void SetX(Crossing& c, double line) const {
     const unsigned from = polygon_.StartOf(c.edge), to = c.edge;
     const double x0 = polygon_.X(from), x1 = polygon_.X(to), y0 = polygon_.Y(from);
@@ -372,13 +366,17 @@ class WindingSweep {
   }
 
   bool LineCoveredTwice(double line) {
+    // Lines only rise and every listed edge starts below the line, so an edge passes strictly
+    // through the line exactly while the line stays below its upper end.
     size_t kept = 0;
-    for (Crossing& c : active_)
-      if (Passes(c, line)) active_[kept++] = c;
+    for (const Crossing& c : active_)
+      if (line < c.upperY) active_[kept++] = c;
     active_.resize(kept);
-    for (; next_ < edgesByLowerY_.size() && LowerY(edgesByLowerY_[next_]) < line; ++next_) {
-      Crossing c{0, false, edgesByLowerY_[next_]};
-      if (Passes(c, line)) active_.push_back(c);
+    for (; next_ < edgesByLowerY_.size(); ++next_) {
+      const unsigned edge = edgesByLowerY_[next_];
+      const double y0 = polygon_.Y(polygon_.StartOf(edge)), y1 = polygon_.Y(edge);
+      if (!(std::min(y0, y1) < line)) break;
+      if (line < std::max(y0, y1)) active_.push_back({0, std::max(y0, y1), edge, y0 < y1});
     }
     if (active_.size() < 3) return false;  // two crossings always wind -1..1
     for (Crossing& c : active_)
@@ -395,10 +393,6 @@ class WindingSweep {
         active_[j] = active_[j - 1];
       active_[j] = c;
     }
-  }
-
-  double LowerY(unsigned edge) const {
-    return std::min(polygon_.Y(polygon_.StartOf(edge)), polygon_.Y(edge));
   }
 
   const PolygonView& polygon_;
