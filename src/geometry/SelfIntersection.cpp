@@ -14,7 +14,6 @@
 #include "lxcomp/LxPolygon.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -58,41 +57,42 @@ class PolygonView {
   bool anyNaN_;
 };
 
-// An unsigned key that orders like the double (not-a-number excluded).
-std::uint64_t SortKey(double value) {
-  const auto bits = std::bit_cast<std::uint64_t>(value);
-  return (bits >> 63) ? ~bits : bits | (std::uint64_t{1} << 63);
-}
-
 struct Keyed {
-  std::uint64_t key;
+  double y;
   std::uint32_t index;
 };
 
-// Least-significant-digit radix sort on 8-bit digits; digits that all keys share are skipped
-// (whole-number coordinates leave the low mantissa bits at zero).
-void RadixSort(std::vector<Keyed>& items) {
-  if (items.size() < 4096) {
-    std::sort(items.begin(), items.end(),
-              [](const Keyed& a, const Keyed& b) { return a.key < b.key; });
+bool Lower(const Keyed& a, const Keyed& b) {
+  return a.y < b.y;
+}
+
+// Sorts by y (no not-a-number): a distribution into one bucket per item by linear position
+// between the least and the greatest y, which is monotone in y, then a sort of each bucket.
+// Linear time for spread-out values, n log n at worst.
+void SortByY(std::vector<Keyed>& items) {
+  if (items.size() < 64) return std::sort(items.begin(), items.end(), Lower);
+  const auto [least, greatest] = std::minmax_element(items.begin(), items.end(), Lower);
+  const double low = least->y;
+  const double scale = static_cast<double>(items.size()) / (greatest->y - low);
+  if (!std::isfinite(scale) || !(scale > 0)) {  // infinite span or all equal
+    if (greatest->y != low) std::sort(items.begin(), items.end(), Lower);
     return;
   }
-  constexpr int kBits = 8, kPasses = 8, kBuckets = 1 << kBits;
-  std::vector<std::uint32_t> counts(kPasses * kBuckets, 0);
+  const size_t last = items.size() - 1;
+  auto bucketOf = [&](double y) { return std::min(last, static_cast<size_t>((y - low) * scale)); };
+  std::vector<std::uint32_t> start(items.size() + 1, 0);
   for (const Keyed& item : items)
-    for (int pass = 0; pass < kPasses; ++pass)
-      ++counts[pass * kBuckets + ((item.key >> (pass * kBits)) & (kBuckets - 1))];
-  std::vector<Keyed> buffer(items.size());
-  for (int pass = 0; pass < kPasses; ++pass) {
-    std::uint32_t* count = &counts[pass * kBuckets];
-    if (std::find(count, count + kBuckets, items.size()) != count + kBuckets) continue;
-    std::uint32_t start = 0;
-    for (int b = 0; b < kBuckets; ++b)
-      start += std::exchange(count[b], start);
-    for (const Keyed& item : items)
-      buffer[count[(item.key >> (pass * kBits)) & (kBuckets - 1)]++] = item;
-    items.swap(buffer);
-  }
+    ++start[bucketOf(item.y) + 1];
+  for (size_t b = 1; b <= items.size(); ++b)
+    start[b] += start[b - 1];
+  std::vector<Keyed> sorted(items.size());
+  std::vector<std::uint32_t> fill(start.begin(), start.end() - 1);
+  for (const Keyed& item : items)
+    sorted[fill[bucketOf(item.y)]++] = item;
+  for (size_t b = 0; b < items.size(); ++b)
+    if (start[b + 1] - start[b] > 1)
+      std::sort(sorted.begin() + start[b], sorted.begin() + start[b + 1], Lower);
+  items.swap(sorted);
 }
 
 // Nodes in ascending y (not-a-number y left out), and edges in ascending y of their lower end.
@@ -106,8 +106,8 @@ YOrder OrderByY(const PolygonView& p) {
   std::vector<Keyed> keyed;
   keyed.reserve(n);
   for (unsigned v = 0; v < n; ++v)
-    if (!std::isnan(p.Y(v))) keyed.push_back({SortKey(p.Y(v)), v});
-  RadixSort(keyed);
+    if (!std::isnan(p.Y(v))) keyed.push_back({p.Y(v), v});
+  SortByY(keyed);
   YOrder order;
   order.nodes.reserve(keyed.size());
   order.edges.reserve(keyed.size());

@@ -164,6 +164,16 @@ TEST(WildPolygons, NotANumberInfinityAndTinyCountsGiveFixedResults) {
       lx::PolyClipTop(p.data(), n, 500);
     }
   }
+  std::mt19937 rng(7);
+  for (double w : wild) {  // enough nodes for the bucketed sort by y
+    Nodes p = lxtest::SmoothStar(rng, 200);
+    p[2 * 77 + 1] = w;
+    const unsigned n = Count(p);
+    EXPECT_EQ(lx::ClassifySelfIntersection(p.data(), n),
+              std::isnan(w) ? SelfIntersection::ForbiddenContact
+                            : lxtest::ReferenceSelfIntersection(p.data(), n))
+        << w;
+  }
   Nodes nan(2000, kNaN);
   EXPECT_TRUE(lx::SelfIntersectingPolygon(nan.data(), 1000));
   EXPECT_EQ(lx::signed_polygonarea(nan.data(), 0), 0);
