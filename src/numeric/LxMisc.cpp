@@ -205,9 +205,8 @@ bool GetCoordinateNoMessage(const QString& text, double* nanometres) {
 
 bool GetCoordinate(const QString& text, double* nanometres) {
   ParseBuffer buffer{QStringView(text)};
-  const QString copy = buffer.ToString();
   if (!ConvertCoordinate(buffer, nanometres)) return false;
-  NotAValidNumber(copy);
+  NotAValidNumber(buffer.ToString());  // the copy as read, its decimal comma already a point
   return true;
 }
 
@@ -260,7 +259,10 @@ QString NotAValidNumberText(const QString& text) {
 }
 
 QString ReaderCopy(const QString& text) {
-  return ParseBuffer{QStringView(text)}.ToString();
+  ParseBuffer buffer{QStringView(text)};
+  double ignored = 0.0;
+  ConvertParseBuffer(buffer, &ignored);
+  return buffer.ToString();
 }
 
 bool CoordinatesEqual(double a, double b) {

@@ -204,6 +204,8 @@ TEST_F(LoudReaders, QuoteAtMostTwentyCharacters) {
   EXPECT_TRUE(lx::GetDouble(QStringLiteral("abcdefghijklmnopqrstuvwxyz"), &value));
   EXPECT_TRUE(lx::GetNumber(QString(), &number));
   EXPECT_TRUE(lx::GetCoordinate(QStringLiteral("x\u00e9\U0001F600"), &value));
+  EXPECT_TRUE(lx::GetCoordinate(QStringLiteral("1,5x"), &value));  // quotes its own copy
+  EXPECT_TRUE(lx::GetDouble(QStringLiteral("1,5x"), &value));      // quotes the caller's text
   lx::NotAValidNumber(static_cast<const wchar_t*>(nullptr));
   EXPECT_FALSE(lx::GetCoordinate(QStringLiteral("2"), &value));
   EXPECT_EQ(value, 2000.0);
@@ -213,6 +215,8 @@ TEST_F(LoudReaders, QuoteAtMostTwentyCharacters) {
       QStringLiteral("'abcdefghijklmnopqrst' is not a valid number |-1|0"),
       QStringLiteral("'' is not a valid number |-1|0"),
       QStringLiteral("'x\u00e9\U0001F600' is not a valid number |-1|0"),
+      QStringLiteral("'1.5x' is not a valid number |-1|0"),
+      QStringLiteral("'1,5x' is not a valid number |-1|0"),
       QStringLiteral("'' is not a valid number |-1|0")};
   EXPECT_EQ(messages_, expected);
 }
@@ -228,6 +232,7 @@ TEST_F(LoudReaders, StaySilentWhileTheMainFormIsHidden) {
 TEST(ReaderCopy, KeepsThirtyCharactersUpToANul) {
   EXPECT_EQ(lx::ReaderCopy(QString(40, u'7')), QString(30, u'7'));
   EXPECT_EQ(lx::ReaderCopy(QStringLiteral("12\0ab")), QStringLiteral("12"));
+  EXPECT_EQ(lx::ReaderCopy(QStringLiteral("1,5x")), QStringLiteral("1.5x"));
   EXPECT_EQ(lx::NotAValidNumberText(QString(19, u'a') + QStringLiteral("\U0001F600")),
             QLatin1Char('\'') + QString(19, u'a') + QStringLiteral("' is not a valid number"));
 }
