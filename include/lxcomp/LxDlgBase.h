@@ -7,7 +7,6 @@
 #include <QDialog>
 #include <QIcon>
 #include <QList>
-#include <QSet>
 #include <QString>
 
 #include <initializer_list>
@@ -126,8 +125,6 @@ class TLxDlgBase : public QDialog {
   bool lightText_ = false;
   int helpContext_ = 0;
   QList<QIcon> lyrImages_;
-  QSet<QObject*> exitFields_;
-  QSet<QObject*> drawnTabs_;
   bool growing_ = false;
 };
 

@@ -26,6 +26,18 @@
 namespace lx {
 namespace {
 
+// The fields and tab bars the dialog watches carry a mark of their own, so nothing outside them
+// has to follow their lifetime: a field may go before or after the dialog's own parts.
+constexpr char kExitFieldMark[] = "lxExitField";
+constexpr char kDrawnTabsMark[] = "lxDrawnTabs";
+
+bool IsExitField(const QObject* object) {
+  return object->property(kExitFieldMark).toBool();
+}
+bool IsDrawnTabBar(const QObject* object) {
+  return object->property(kDrawnTabsMark).toBool();
+}
+
 constexpr int kSwatchWidth = 22;
 constexpr int kSwatchHeight = 16;
 constexpr int kLightTextSum = 381;
@@ -81,11 +93,6 @@ TLxDlgBase::TLxDlgBase(QWidget* parent) : QDialog(parent), baseUi_(new Ui::TLxDl
 
 TLxDlgBase::~TLxDlgBase() {
   FormDestroy(this);
-  // The fields outlive this part of the dialog: they go with the QWidget base.
-  for (QObject* watched : exitFields_ + drawnTabs_) {
-    watched->removeEventFilter(this);
-    disconnect(watched, nullptr, this, nullptr);
-  }
 }
 
 QWidget* TLxDlgBase::ClientArea() const {
@@ -116,10 +123,9 @@ void TLxDlgBase::ReadColors() {
 
 void TLxDlgBase::UseLxExit(std::initializer_list<QLineEdit*> fields) {
   for (QLineEdit* field : fields) {
-    if (!field || exitFields_.contains(field)) continue;
-    exitFields_.insert(field);
+    if (!field || IsExitField(field)) continue;
+    field->setProperty(kExitFieldMark, true);
     field->installEventFilter(this);
-    connect(field, &QObject::destroyed, this, [this, field] { exitFields_.remove(field); });
   }
 }
 
@@ -261,10 +267,9 @@ void TLxDlgBase::UseOwnerDrawnTabs(QTabWidget* tabs) {
 }
 
 void TLxDlgBase::UseOwnerDrawnTabs(QTabBar* tabs) {
-  if (!tabs || drawnTabs_.contains(tabs)) return;
-  drawnTabs_.insert(tabs);
+  if (!tabs || IsDrawnTabBar(tabs)) return;
+  tabs->setProperty(kDrawnTabsMark, true);
   tabs->installEventFilter(this);
-  connect(tabs, &QObject::destroyed, this, [this, tabs] { drawnTabs_.remove(tabs); });
 }
 
 // The style draws each tab's shape; the dialog draws its caption.
@@ -284,7 +289,7 @@ bool TLxDlgBase::PaintTabs(QTabBar* bar) {
 
 void TLxDlgBase::OkClicked() {
   // Enter presses OK without leaving the field: the field is left first, as a click would.
-  if (QWidget* focused = focusWidget(); focused && exitFields_.contains(focused)) LxExit(focused);
+  if (QWidget* focused = focusWidget(); focused && IsExitField(focused)) LxExit(focused);
   OkButtonClick(baseUi_->OkButton);
 }
 
@@ -349,8 +354,8 @@ void TLxDlgBase::keyPressEvent(QKeyEvent* event) {
 }
 
 bool TLxDlgBase::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::FocusOut && exitFields_.contains(watched)) LxExit(watched);
-  if (event->type() == QEvent::Paint && drawnTabs_.contains(watched))
+  if (event->type() == QEvent::FocusOut && IsExitField(watched)) LxExit(watched);
+  if (event->type() == QEvent::Paint && IsDrawnTabBar(watched))
     return PaintTabs(static_cast<QTabBar*>(watched));
   return QDialog::eventFilter(watched, event);
 }
