@@ -2,6 +2,7 @@
 #include "lxcomp/LxButtonGroupBox.h"
 #include "lxcomp/LxOnOffButton.h"
 #include "lxcomp/LxOrigin.h"
+#include "lxcomp/LxProgress.h"
 #include "lxcomp/LxRegistry.h"
 #include "lxcomp/LxTabControl.h"
 
@@ -12,6 +13,7 @@ void RegisterAllComponents() {
   LxButtonGroupBox::Register();
   LxOrigin::Register();
   LxTabControl::Register();
+  LxProgress::Register();
 }
 
 }  // namespace lx
