@@ -36,7 +36,9 @@ TDlgArc::TDlgArc(QWidget* owner) : TLxDlgBase(owner), ui_(new Ui::TDlgArc) {
 
 TDlgArc::~TDlgArc() = default;
 
-bool TDlgArc::NodesMode() const { return ui_->BtnNodes->isChecked(); }
+bool TDlgArc::NodesMode() const {
+  return ui_->BtnNodes->isChecked();
+}
 
 void TDlgArc::DlgInit(ArcSettings* settings) {
   settings_ = settings;
@@ -105,10 +107,11 @@ void TDlgArc::ButtonNodesClick(QObject* sender) {
 }
 
 void TDlgArc::ShowHideItems(bool nodesMode) {
-  for (QWidget* node : {static_cast<QWidget*>(ui_->LabelBegin), static_cast<QWidget*>(ui_->EditXB),
-                        static_cast<QWidget*>(ui_->LabelComma2), static_cast<QWidget*>(ui_->EditYB),
-                        static_cast<QWidget*>(ui_->LabelEnd), static_cast<QWidget*>(ui_->EditXE),
-                        static_cast<QWidget*>(ui_->LabelComma3), static_cast<QWidget*>(ui_->EditYE)})
+  for (QWidget* node :
+       {static_cast<QWidget*>(ui_->LabelBegin), static_cast<QWidget*>(ui_->EditXB),
+        static_cast<QWidget*>(ui_->LabelComma2), static_cast<QWidget*>(ui_->EditYB),
+        static_cast<QWidget*>(ui_->LabelEnd), static_cast<QWidget*>(ui_->EditXE),
+        static_cast<QWidget*>(ui_->LabelComma3), static_cast<QWidget*>(ui_->EditYE)})
     node->setVisible(nodesMode);
   for (QWidget* polar : {static_cast<QWidget*>(ui_->LabelRB), static_cast<QWidget*>(ui_->EditRB),
                          static_cast<QWidget*>(ui_->LabelAB), static_cast<QWidget*>(ui_->EditAB),
@@ -132,15 +135,11 @@ void TDlgArc::OkButtonClick(QObject*) {
     done(mrOk);
     return;
   }
-  const auto read = [this](QLineEdit* edit, double* value) {
-    if (!GetCoordinate(edit->text(), value)) return false;
-    edit->setFocus();
-    return true;
-  };
+  const auto read = [this](QLineEdit* edit, double* value) { return ReadCoordinate(edit, value); };
   // An angle must have a direction: infinity reads as a real but gives no node.
   const auto readAngle = [this](QLineEdit* edit, double* value) {
     double angle = 0;
-    if (GetDouble(edit->text(), &angle)) return edit->setFocus(), true;
+    if (ReadDouble(edit, &angle)) return true;
     if (!std::isfinite(angle)) return NotAValidNumber(edit->text()), edit->setFocus(), true;
     *value = angle;
     return false;
@@ -159,7 +158,7 @@ void TDlgArc::OkButtonClick(QObject*) {
   for (int i = 0; i < 6; ++i)
     if (read(fields[i], &values[i])) return;
   int segments = 0;
-  if (GetNumber(ui_->EditNum->text(), &segments)) return ui_->EditNum->setFocus();
+  if (ReadNumber(ui_->EditNum, &segments)) return;
   settings_->CentreX = values[0];
   settings_->CentreY = values[1];
   settings_->BeginX = values[2];
@@ -174,6 +173,8 @@ void TDlgArc::OkButtonClick(QObject*) {
   done(mrOk);
 }
 
-bool DoArcDlg(ArcSettings* settings) { return RunModal<TDlgArc>(settings); }
+bool DoArcDlg(ArcSettings* settings) {
+  return RunModal<TDlgArc>(settings);
+}
 
 }  // namespace lx

@@ -24,7 +24,8 @@ QString AreaText(double value) {
   const int decimals = std::clamp(15 - integerDigits, 0, 40);
   QString text = QString::number(value, 'f', decimals);
   if (text.contains(u'.')) {
-    while (text.endsWith(u'0')) text.chop(1);
+    while (text.endsWith(u'0'))
+      text.chop(1);
     if (text.endsWith(u'.')) text.chop(1);
   }
   return text;
@@ -90,8 +91,12 @@ void TDlgPolygon::ComboUnitsChange(QObject*) {
   if (area_ != 0) ShowArea();
 }
 
-void TDlgPolygon::CheckClipboard() { table_->CheckClipboard(); }
-void TDlgPolygon::WMClipboard() { CheckClipboard(); }
+void TDlgPolygon::CheckClipboard() {
+  table_->CheckClipboard();
+}
+void TDlgPolygon::WMClipboard() {
+  CheckClipboard();
+}
 
 QString TDlgPolygon::AdvGridGetDisplText(int col, int row) const {
   return table_->Model()->DisplText(col, row);
@@ -99,16 +104,34 @@ QString TDlgPolygon::AdvGridGetDisplText(int col, int row) const {
 QString TDlgPolygon::AdvGridGetEditText(int col, int row) {
   return table_->Model()->EditText(col, row);
 }
-void TDlgPolygon::AdvGridEditChange(const QString& value) { table_->Model()->EditChange(value); }
-void TDlgPolygon::AdvGridEditCellDone() { table_->Model()->EditDone(); }
-void TDlgPolygon::AdvGridEditingDone() { table_->Model()->EditDone(); }
-void TDlgPolygon::AdvGridResize() { table_->FitColumns(); }
+void TDlgPolygon::AdvGridEditChange(const QString& value) {
+  table_->Model()->EditChange(value);
+}
+void TDlgPolygon::AdvGridEditCellDone() {
+  table_->Model()->EditDone();
+}
+void TDlgPolygon::AdvGridEditingDone() {
+  table_->Model()->EditDone();
+}
+void TDlgPolygon::AdvGridResize() {
+  table_->FitColumns();
+}
 
-void TDlgPolygon::ButtonDeleteClick(QObject*) { table_->DeleteNodes(); }
-void TDlgPolygon::ButtonInsertClick(QObject*) { table_->InsertNode(); }
-void TDlgPolygon::ButtonAddClick(QObject*) { table_->AddNode(); }
-void TDlgPolygon::ButtonCopyClick(QObject*) { table_->CopyNodes(); }
-void TDlgPolygon::ButtonPasteClick(QObject*) { table_->PasteNodes(); }
+void TDlgPolygon::ButtonDeleteClick(QObject*) {
+  table_->DeleteNodes();
+}
+void TDlgPolygon::ButtonInsertClick(QObject*) {
+  table_->InsertNode();
+}
+void TDlgPolygon::ButtonAddClick(QObject*) {
+  table_->AddNode();
+}
+void TDlgPolygon::ButtonCopyClick(QObject*) {
+  table_->CopyNodes();
+}
+void TDlgPolygon::ButtonPasteClick(QObject*) {
+  table_->PasteNodes();
+}
 
 void TDlgPolygon::OkButtonClick(QObject*) {
   table_->Delegate()->FinishEdit();
@@ -126,10 +149,18 @@ void TDlgPolygon::OkButtonClick(QObject*) {
   done(mrOk);
 }
 
-int TDlgPolygon::GetNodeCount() const { return table_->Count(); }
-const double* TDlgPolygon::GetNodes() const { return table_->Nodes(); }
-QTableView* TDlgPolygon::Grid() const { return ui_->AdvGrid; }
+int TDlgPolygon::GetNodeCount() const {
+  return table_->Count();
+}
+const double* TDlgPolygon::GetNodes() const {
+  return table_->Nodes();
+}
+QTableView* TDlgPolygon::Grid() const {
+  return ui_->AdvGrid;
+}
 
-bool DoPolygonDlg(PolygonSettings* settings) { return RunModal<TDlgPolygon>(settings); }
+bool DoPolygonDlg(PolygonSettings* settings) {
+  return RunModal<TDlgPolygon>(settings);
+}
 
 }  // namespace lx

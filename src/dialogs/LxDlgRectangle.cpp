@@ -16,7 +16,9 @@ namespace {
 bool lastTwoCorner = true;
 int lastOrigin = 5;
 
-bool IsOrigin(int origin) { return origin >= 1 && origin <= 9; }
+bool IsOrigin(int origin) {
+  return origin >= 1 && origin <= 9;
+}
 
 // From a reference point to the centre: +1 for the left column, 0 centre, -1 right.
 double ColumnFactor(int origin) {
@@ -33,8 +35,10 @@ double RowFactor(int origin) {
 // Into -180 to 180 by whole turns.
 double NormalisedAngle(double angle) {
   if (std::fabs(angle) > 3600.0) angle = std::fmod(angle, 360.0);
-  while (angle > 180.0) angle += -360.0;
-  while (angle < -180.0) angle += 360.0;
+  while (angle > 180.0)
+    angle += -360.0;
+  while (angle < -180.0)
+    angle += 360.0;
   return angle;
 }
 
@@ -72,7 +76,9 @@ TDlgRectangle::TMode TDlgRectangle::Mode() const {
   return Corners;
 }
 
-int TDlgRectangle::Origin() const { return ui_->RefSelect->GetSelectedButton(); }
+int TDlgRectangle::Origin() const {
+  return ui_->RefSelect->GetSelectedButton();
+}
 
 void TDlgRectangle::PrintField(QLineEdit* edit, double nanometres) {
   const bool was = updating_;
@@ -122,9 +128,10 @@ void TDlgRectangle::PlaceFields(bool corners) {
   place(ui_->EditW, corners ? 2 : 1);
   place(ui_->EditH, corners ? 3 : 2);
   place(ui_->EditAngle, 3);
-  QWidget* order[] = {ui_->EditXmin, ui_->EditYmin, ui_->EditXmax, ui_->EditYmax,
+  QWidget* order[] = {ui_->EditXmin, ui_->EditYmin, ui_->EditXmax,  ui_->EditYmax,
                       ui_->EditW,    ui_->EditH,    ui_->EditAngle, ui_->LayerCombo};
-  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+  for (std::size_t i = 1; i < std::size(order); ++i)
+    setTabOrder(order[i - 1], order[i]);
 }
 
 void TDlgRectangle::ShowCorners() {
@@ -167,8 +174,9 @@ void TDlgRectangle::ButtonCornersClick(QObject*) {
     ui_->RefSelect->SetSelectedButton(lastOrigin);
     OriginChange();
   }
-  for (QWidget* second : {static_cast<QWidget*>(ui_->EditXmax), static_cast<QWidget*>(ui_->EditYmax),
-                          static_cast<QWidget*>(ui_->Label4)}) {
+  for (QWidget* second :
+       {static_cast<QWidget*>(ui_->EditXmax), static_cast<QWidget*>(ui_->EditYmax),
+        static_cast<QWidget*>(ui_->Label4)}) {
     second->setVisible(corners);
     second->setEnabled(corners);
   }
@@ -309,11 +317,7 @@ void TDlgRectangle::OkButtonClick(QObject*) {
     done(mrOk);
     return;
   }
-  const auto read = [this](QLineEdit* edit, double* value) {
-    if (!GetCoordinate(edit->text(), value)) return false;
-    edit->setFocus();
-    return true;
-  };
+  const auto read = [this](QLineEdit* edit, double* value) { return ReadCoordinate(edit, value); };
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
   const TMode mode = Mode();
   if (mode == Corners) {
@@ -327,7 +331,7 @@ void TDlgRectangle::OkButtonClick(QObject*) {
       return;
     if (mode == Box) {
       double angle = 0;
-      if (GetDouble(ui_->EditAngle->text(), &angle)) return ui_->EditAngle->setFocus();
+      if (ReadDouble(ui_->EditAngle, &angle)) return;
       if (!std::isfinite(angle)) {  // a turn by infinity has no position
         NotAValidNumber(ui_->EditAngle->text());
         return ui_->EditAngle->setFocus();
@@ -360,6 +364,8 @@ void TDlgRectangle::OkButtonClick(QObject*) {
   done(mrOk);
 }
 
-bool DoRectangleDlg(RectangleSettings* settings) { return RunModal<TDlgRectangle>(settings); }
+bool DoRectangleDlg(RectangleSettings* settings) {
+  return RunModal<TDlgRectangle>(settings);
+}
 
 }  // namespace lx

@@ -58,8 +58,12 @@ void TDlgWire::CalculateLength() {
   ui_->LabelTotalLength->setText(QString::fromWCharArray(text) + QStringLiteral(" um"));
 }
 
-void TDlgWire::CheckClipboard() { table_->CheckClipboard(); }
-void TDlgWire::WMClipboard() { CheckClipboard(); }
+void TDlgWire::CheckClipboard() {
+  table_->CheckClipboard();
+}
+void TDlgWire::WMClipboard() {
+  CheckClipboard();
+}
 
 QString TDlgWire::AdvGridGetDisplText(int col, int row) const {
   return table_->Model()->DisplText(col, row);
@@ -67,16 +71,34 @@ QString TDlgWire::AdvGridGetDisplText(int col, int row) const {
 QString TDlgWire::AdvGridGetEditText(int col, int row) {
   return table_->Model()->EditText(col, row);
 }
-void TDlgWire::AdvGridEditChange(const QString& value) { table_->Model()->EditChange(value); }
-void TDlgWire::AdvGridEditCellDone() { table_->Model()->EditDone(); }
-void TDlgWire::AdvGridEditingDone() { table_->Model()->EditDone(); }
-void TDlgWire::AdvGridResize() { table_->FitColumns(); }
+void TDlgWire::AdvGridEditChange(const QString& value) {
+  table_->Model()->EditChange(value);
+}
+void TDlgWire::AdvGridEditCellDone() {
+  table_->Model()->EditDone();
+}
+void TDlgWire::AdvGridEditingDone() {
+  table_->Model()->EditDone();
+}
+void TDlgWire::AdvGridResize() {
+  table_->FitColumns();
+}
 
-void TDlgWire::ButtonDeleteClick(QObject*) { table_->DeleteNodes(); }
-void TDlgWire::ButtonInsertClick(QObject*) { table_->InsertNode(); }
-void TDlgWire::ButtonAddClick(QObject*) { table_->AddNode(); }
-void TDlgWire::ButtonCopyClick(QObject*) { table_->CopyNodes(); }
-void TDlgWire::ButtonPasteClick(QObject*) { table_->PasteNodes(); }
+void TDlgWire::ButtonDeleteClick(QObject*) {
+  table_->DeleteNodes();
+}
+void TDlgWire::ButtonInsertClick(QObject*) {
+  table_->InsertNode();
+}
+void TDlgWire::ButtonAddClick(QObject*) {
+  table_->AddNode();
+}
+void TDlgWire::ButtonCopyClick(QObject*) {
+  table_->CopyNodes();
+}
+void TDlgWire::ButtonPasteClick(QObject*) {
+  table_->PasteNodes();
+}
 
 void TDlgWire::OkButtonClick(QObject*) {
   table_->Delegate()->FinishEdit();
@@ -85,10 +107,7 @@ void TDlgWire::OkButtonClick(QObject*) {
     return;
   }
   double width = 0;
-  if (GetCoordinate(ui_->EditW->text(), &width)) {
-    ui_->EditW->setFocus();
-    return;
-  }
+  if (ReadCoordinate(ui_->EditW, &width)) return;
   settings_->Width = std::fabs(width);
   try {
     table_->WriteTo(&settings_->NodeCount, &settings_->Nodes);
@@ -107,10 +126,18 @@ void TDlgWire::OkButtonClick(QObject*) {
   done(mrOk);
 }
 
-int TDlgWire::GetNodeCount() const { return table_->Count(); }
-const double* TDlgWire::GetNodes() const { return table_->Nodes(); }
-QTableView* TDlgWire::Grid() const { return ui_->AdvGrid; }
+int TDlgWire::GetNodeCount() const {
+  return table_->Count();
+}
+const double* TDlgWire::GetNodes() const {
+  return table_->Nodes();
+}
+QTableView* TDlgWire::Grid() const {
+  return ui_->AdvGrid;
+}
 
-bool DoWireDlg(WireSettings* settings) { return RunModal<TDlgWire>(settings); }
+bool DoWireDlg(WireSettings* settings) {
+  return RunModal<TDlgWire>(settings);
+}
 
 }  // namespace lx

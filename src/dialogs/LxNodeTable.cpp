@@ -54,7 +54,9 @@ int TNodeTableModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : Count();
 }
 
-int TNodeTableModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : 3; }
+int TNodeTableModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : 3;
+}
 
 QVariant TNodeTableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
@@ -102,7 +104,9 @@ QString TNodeTableModel::EditText(int col, int row) {
   return editText_;
 }
 
-void TNodeTableModel::EditChange(const QString& text) { editText_ = text; }
+void TNodeTableModel::EditChange(const QString& text) {
+  editText_ = text;
+}
 
 bool TNodeTableModel::EditDone() {
   const int row = editRow_;
@@ -204,8 +208,8 @@ bool TNodeCellDelegate::eventFilter(QObject* watched, QEvent* event) {
       emit closeEditor(editor, NoHint);
       if (current.isValid()) {
         const bool onX = current.column() == 1;
-        const QModelIndex next = onX ? current.siblingAtColumn(2)
-                                     : current.sibling(current.row() + 1, 1);
+        const QModelIndex next =
+            onX ? current.siblingAtColumn(2) : current.sibling(current.row() + 1, 1);
         if (next.isValid()) grid_->setCurrentIndex(next);
       }
       return true;
@@ -221,9 +225,8 @@ TNodeTableEditor::TNodeTableEditor(TLxDlgBase* dialog, QTableView* grid,
                                    QAbstractButton* pasteButton)
     : QObject(dialog), dialog_(dialog), grid_(grid), pasteButton_(pasteButton) {
   model_ = new TNodeTableModel(nodes_, this);
-  model_->SetReader([dialog](const QString& text, double* value) {
-    return dialog->GetCoordinate(text, value);
-  });
+  model_->SetReader(
+      [dialog](const QString& text, double* value) { return dialog->GetCoordinate(text, value); });
   connect(model_, &TNodeTableModel::NodeEdited, this, &TNodeTableEditor::NodesChanged);
   delegate_ = new TNodeCellDelegate(model_, grid);
   grid->setModel(model_);
@@ -250,8 +253,8 @@ void TNodeTableEditor::Load(const double* nodes, int count) {
 void TNodeTableEditor::FitColumns() {
   // The number column holds the widest row number; the x and y columns share the rest.
   const QString widest = QString(QString::number(std::max(Count(), 1)).size() + 1, u'8');
-  const int padding = 2 * grid_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr,
-                                                      grid_) + 12;
+  const int padding =
+      2 * grid_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, grid_) + 12;
   grid_->setColumnWidth(0, grid_->fontMetrics().horizontalAdvance(widest) + padding);
 }
 
@@ -357,8 +360,8 @@ void TNodeTableEditor::CheckClipboard() {
   bool readable = false;
   try {
     const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
-    readable = mime && mime->hasText() &&
-               ScanNodeText(mime->text(), kClipboardProbeNodes).nodes > 0;
+    readable =
+        mime && mime->hasText() && ScanNodeText(mime->text(), kClipboardProbeNodes).nodes > 0;
   } catch (...) {
     readable = false;
   }
@@ -369,7 +372,7 @@ void TNodeTableEditor::WriteTo(std::int32_t* nodeCount, double** nodes) const {
   const int count = Count();
   if (count > *nodeCount || !*nodes) {
     double* room = new double[2 * std::size_t(count) + 2];  // before freeing: never lose the old
-    delete[] *nodes;
+    delete[] * nodes;
     *nodes = room;
   }
   *nodeCount = count;

@@ -22,7 +22,9 @@ bool IsPairSeparator(QChar c) {
   return u == u'\t' || u == u' ' || u == u';';
 }
 
-bool IsBlank(QChar c) { return IsNodeSeparator(c) || c.unicode() == u'\r'; }
+bool IsBlank(QChar c) {
+  return IsNodeSeparator(c) || c.unicode() == u'\r';
+}
 
 bool OnlyBlanksFrom(const QChar* p, const QChar* end) {
   return std::all_of(p, end, IsBlank);
@@ -33,7 +35,8 @@ bool OnlyBlanksFrom(const QChar* p, const QChar* end) {
 bool ReadNumber(const QChar* begin, const QChar* end, double* nanometres) {
   wchar_t copy[32];
   const qsizetype length = std::min<qsizetype>(end - begin, 30);
-  for (qsizetype i = 0; i < length; ++i) copy[i] = static_cast<wchar_t>(begin[i].unicode());
+  for (qsizetype i = 0; i < length; ++i)
+    copy[i] = static_cast<wchar_t>(begin[i].unicode());
   copy[length] = 0;
   if (!GetCoordinateNoMessage(copy, nanometres)) return true;
   if (end - begin > kLongestExpression) return false;
@@ -45,7 +48,8 @@ bool ReadNumber(const QChar* begin, const QChar* end, double* nanometres) {
 }
 
 const QChar* TokenEnd(const QChar* p, const QChar* end) {
-  while (p < end && !IsNodeSeparator(*p)) ++p;
+  while (p < end && !IsNodeSeparator(*p))
+    ++p;
   return p;
 }
 
@@ -60,12 +64,14 @@ TNodeTextScan ScanNodeText(QStringView text, int maxNodes, double* out) {
     scan.badNumber = QString(begin, std::min<qsizetype>(stop - begin, kQuotedLength));
     return scan;
   };
-  while (p < end && IsNodeSeparator(*p)) ++p;
+  while (p < end && IsNodeSeparator(*p))
+    ++p;
   while (scan.nodes < maxNodes && !OnlyBlanksFrom(p, end)) {
     double xy[2];
     for (int i = 0; i < 2; ++i) {
       if (i == 1)
-        while (p < end && IsPairSeparator(*p)) ++p;
+        while (p < end && IsPairSeparator(*p))
+          ++p;
       const QChar* begin = p;
       p = TokenEnd(p, end);
       if (!ReadNumber(begin, p, &xy[i])) return fail(begin, p);
@@ -75,7 +81,8 @@ TNodeTextScan ScanNodeText(QStringView text, int maxNodes, double* out) {
       out[2 * scan.nodes + 1] = xy[1];
     }
     ++scan.nodes;
-    while (p < end && IsNodeSeparator(*p)) ++p;
+    while (p < end && IsNodeSeparator(*p))
+      ++p;
   }
   return scan;
 }
@@ -86,7 +93,8 @@ QString PrintNodeText(const double* nodes, int first, int count) {
   wchar_t number[64];
   auto append = [&](double value, char16_t after) {
     PrintMicrons(value, number, 64);
-    for (const wchar_t* c = number; *c; ++c) text.append(QChar(char16_t(*c)));
+    for (const wchar_t* c = number; *c; ++c)
+      text.append(QChar(char16_t(*c)));
     text.append(QChar(after));
   };
   for (int i = first; i < first + count; ++i) {
