@@ -68,7 +68,10 @@ TDlgRectangle::TDlgRectangle(QWidget* owner) : TLxDlgBase(owner), ui_(new Ui::TD
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-TDlgRectangle::~TDlgRectangle() = default;
+TDlgRectangle::~TDlgRectangle() {
+  // The fields go while the base form still keeps its list of them.
+  qDeleteAll(ClientArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+}
 
 TDlgRectangle::TMode TDlgRectangle::Mode() const {
   if (ui_->ButtonBox->isChecked()) return Box;
