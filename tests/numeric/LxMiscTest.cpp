@@ -3,8 +3,10 @@
 #include <QLineEdit>
 #include <QWidget>
 
+#include <charconv>
 #include <climits>
 #include <cmath>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <vector>
@@ -279,6 +281,36 @@ TEST(Comparisons, CoordinatesEqualAndSimpleValues) {
   EXPECT_TRUE(lx::SimpleValues(half, 1));
   EXPECT_TRUE(lx::SimpleValues(nullptr, 0));
   EXPECT_TRUE(lx::SimpleValues(half, -1));
+}
+
+}  // namespace
+
+namespace {
+
+// The readers round exactly as the standard library's correctly rounded conversion.
+TEST(GetDouble, RoundsLikeFromChars) {
+  const char* texts[] = {"0.1",
+                         "0.3",
+                         "123456789012345",
+                         "1234567890123456",
+                         "9007199254740993",
+                         "2.2250738585072014e-308",
+                         "1.7976931348623157e308",
+                         "4.9e-324",
+                         "0.000001234",
+                         "1e22",
+                         "1e23",
+                         "12345678.90123e-5",
+                         "-0",
+                         "000000000000000000000000001.5"};
+  for (const char* text : texts) {
+    double expected = 0.0;
+    std::from_chars(text, text + std::strlen(text), expected);
+    double value = 0.0;
+    EXPECT_FALSE(lx::GetDoubleNoMessage(QString::fromLatin1(text), &value)) << text;
+    EXPECT_EQ(value, expected) << text;
+    EXPECT_EQ(std::signbit(value), std::signbit(expected)) << text;
+  }
 }
 
 }  // namespace
