@@ -238,6 +238,7 @@ TNodeTableEditor::TNodeTableEditor(TLxDlgBase* dialog, QTableView* grid,
   grid->setWordWrap(false);
   grid->verticalHeader()->hide();
   grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 6);
   grid->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   grid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
   grid->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
