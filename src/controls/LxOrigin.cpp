@@ -228,13 +228,15 @@ void TLxOrigin::PaintCell(QPainter& painter, const QRect& cell, CellLook look) c
       break;
   }
   style()->drawPrimitive(QStyle::PE_PanelButtonCommand, &option, &painter, this);
+  if (look == CellLook::Hot && isEnabled()) controls::DrawHotTint(painter, this, option.rect);
   if (look != CellLook::Selected) return;
   // The chosen reference point, as a dot in the selection colour.
   const qreal radius = std::max(1.5, std::min(cell.width(), cell.height()) / 6.0);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(option.palette.color(QPalette::Highlight));
+  painter.setBrush(isEnabled() ? option.palette.color(QPalette::Highlight)
+                               : option.palette.color(QPalette::Disabled, QPalette::ButtonText));
   painter.drawEllipse(QRectF(cell).center(), radius, radius);
   painter.restore();
 }
@@ -257,6 +259,7 @@ void TLxOrigin::Paint() {
   const int cw = CellWidth();
   const int ch = CellHeight();
   if (!HasCells() || cw <= 0 || ch <= 0) return;
+  if (!isEnabled()) painter.setOpacity(0.5);  // some palettes give disabled buttons no own look
   for (int row = 0; row < NumRows; ++row)
     for (int col = 0; col < NumCols; ++col)
       PaintCell(painter, QRect(col * cw, row * ch, cw, ch), LookOf(row, col));

@@ -4,7 +4,6 @@
 #include <QList>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QWidget>
 
 #include <algorithm>
@@ -63,12 +62,26 @@ QColor ButtonFace(const QWidget* widget) {
 }
 
 void DrawFocusRect(QPainter& painter, const QWidget* widget, const QRect& rect) {
-  QStyleOptionFocusRect option;
-  option.initFrom(widget);
-  option.rect = rect;
-  option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-  option.backgroundColor = ButtonFace(widget);
-  widget->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, widget);
+  if (rect.width() < 2 || rect.height() < 2) return;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(widget->palette().color(QPalette::Highlight), 1.0, Qt::DotLine));
+  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2.0, 2.0);
+  painter.restore();
+}
+
+void DrawHotTint(QPainter& painter, const QWidget* widget, const QRect& rect) {
+  if (rect.width() < 2 || rect.height() < 2) return;
+  QColor tint = widget->palette().color(QPalette::Highlight);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  tint.setAlpha(150);
+  painter.setPen(QPen(tint, 1.0));
+  tint.setAlpha(45);
+  painter.setBrush(tint);
+  painter.drawRoundedRect(QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5), 2.0, 2.0);
+  painter.restore();
 }
 
 }  // namespace lx::controls

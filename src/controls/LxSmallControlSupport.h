@@ -26,7 +26,12 @@ bool IsDialogKey(const QKeyEvent* event);
 // The face of a dialog, which the controls paint behind themselves.
 QColor ButtonFace(const QWidget* widget);
 
-// The style's focus rectangle, shown whether the focus came from the keyboard or the mouse.
+// A focus rectangle in the selection colour, shown whether the focus came from the keyboard or
+// the mouse, so that it reads in light and dark palettes alike.
 void DrawFocusRect(QPainter& painter, const QWidget* widget, const QRect& rect);
+
+// A tint of the selection colour over a part under the mouse, for styles whose hover look is
+// too faint to tell.
+void DrawHotTint(QPainter& painter, const QWidget* widget, const QRect& rect);
 
 }  // namespace lx::controls

@@ -105,13 +105,20 @@ void TLxTabControl::PaintTab(QPainter& painter, int index, const QRect& area) co
   option.text = Tabs[index];
   option.position = PositionOf(index, static_cast<int>(Tabs.size()));
   if (index == TabIndex) option.state |= QStyle::State_Selected;
-  if (HotShown && index == HotTab && index != TabIndex && isEnabled())
-    option.state |= QStyle::State_MouseOver;
+  const bool hot = HotShown && index == HotTab && index != TabIndex && isEnabled();
+  if (hot) option.state |= QStyle::State_MouseOver;
   style()->drawControl(QStyle::CE_TabBarTabShape, &option, &painter, this);
+  if (hot) controls::DrawHotTint(painter, this, area.adjusted(1, 0, -1, -1));
+  if (index == TabIndex && area.height() > 4) {
+    // An accent along the free edge tells the selected tab apart in every palette.
+    const QColor accent = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
+                                          isEnabled() ? QPalette::Highlight : QPalette::Mid);
+    painter.fillRect(QRect(area.left() + 2, area.bottom() - 2, area.width() - 4, 2), accent);
+  }
   style()->drawItemText(&painter, area, Qt::AlignCenter, palette(), isEnabled(), option.text,
                         QPalette::WindowText);
   if (index == TabIndex && hasFocus())
-    controls::DrawFocusRect(painter, this, area.adjusted(3, 2, -3, -3));
+    controls::DrawFocusRect(painter, this, area.adjusted(2, 1, -2, -2));
 }
 
 // Tabs hang below a strip: the selected tab stands taller than the others.
@@ -183,8 +190,10 @@ void TLxTabControl::mouseReleaseEvent(QMouseEvent* event) {
 void TLxTabControl::keyPressEvent(QKeyEvent* event) {
   const int count = static_cast<int>(Tabs.size());
   int target = -1;
-  if (event->key() == Qt::Key_Left && TabIndex > 0) target = std::min(TabIndex, count) - 1;
-  if (event->key() == Qt::Key_Right && TabIndex + 1 < count) target = std::max(TabIndex + 1, 0);
+  if (count > 0 && event->key() == Qt::Key_Left && TabIndex > 0)
+    target = std::min(TabIndex, count) - 1;
+  if (count > 0 && event->key() == Qt::Key_Right && TabIndex + 1 < count)
+    target = std::max(TabIndex + 1, 0);
   if (event->key() != Qt::Key_Left && event->key() != Qt::Key_Right) {
     QWidget::keyPressEvent(event);
     return;

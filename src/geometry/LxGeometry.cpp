@@ -63,7 +63,7 @@ void GetMinMax(const double* nodes, int count, double& xmin, double& ymin, doubl
   if (!nodes) return;
   xmin = xmax = nodes[0];
   ymin = ymax = nodes[1];
-  for (int i = 1; i < count; ++i) {
+  for (size_t i = 1; i < static_cast<size_t>(count > 0 ? count : 0); ++i) {
     const double x = nodes[2 * i], y = nodes[2 * i + 1];
     if (x < xmin) xmin = x;
     if (x > xmax) xmax = x;
@@ -79,15 +79,15 @@ void GetMinMax(const double* nodes, int count, MinMax* box) {
 
 unsigned int EliminateDuplicateNodes(double* nodes, unsigned int count) {
   if (count < 2 || !nodes) return 1;
-  unsigned int kept = 1;
-  for (unsigned int i = 1; i < count; ++i) {
+  size_t kept = 1;
+  for (size_t i = 1; i < count; ++i) {
     const double x = nodes[2 * i], y = nodes[2 * i + 1];
     if (x == nodes[2 * kept - 2] && y == nodes[2 * kept - 1]) continue;
     nodes[2 * kept] = x;
     nodes[2 * kept + 1] = y;
     ++kept;
   }
-  return kept;
+  return static_cast<unsigned int>(kept);
 }
 
 void RotatePoint(double& x, double& y, double cx, double cy, double angle) {

@@ -10,13 +10,13 @@ namespace {
 // Shoelace sum twice the signed area in nm^2; 0 for a self-intersecting or degenerate polygon.
 double TwiceSignedArea(const double* nodes, unsigned int count) {
   if (!nodes || count == 0 || SelfIntersectingPolygon(nodes, count)) return 0;
-  const unsigned last = count - 1;
-  if (nodes[0] == nodes[2 * last] && nodes[1] == nodes[2 * last + 1]) --count;
-  if (count < 3) return 0;
+  size_t n = count;
+  if (nodes[0] == nodes[2 * n - 2] && nodes[1] == nodes[2 * n - 1]) --n;
+  if (n < 3) return 0;
   double sum = 0;
-  for (unsigned i = 1; i < count; ++i)
+  for (size_t i = 1; i < n; ++i)
     sum += nodes[2 * i - 2] * nodes[2 * i + 1] - nodes[2 * i - 1] * nodes[2 * i];
-  sum += nodes[1] * nodes[2 * count - 2] - nodes[0] * nodes[2 * count - 1];
+  sum += nodes[1] * nodes[2 * n - 2] - nodes[0] * nodes[2 * n - 1];
   return sum;
 }
 
@@ -28,14 +28,14 @@ template <typename Inside, typename Cross>
 unsigned int ClipStage(double* nodes, unsigned int count, Inside inside, Cross cross) {
   if (count == 0 || !nodes) return 0;
   const std::vector<double> input(nodes, nodes + 2 * static_cast<size_t>(count));
-  unsigned int written = 0;
+  size_t written = 0;
   auto emit = [&](double x, double y) {
     nodes[2 * written] = x;
     nodes[2 * written + 1] = y;
     ++written;
   };
-  for (unsigned int i = 0; i < count; ++i) {
-    const unsigned int next = i + 1 < count ? i + 1 : 0;
+  for (size_t i = 0; i < count; ++i) {
+    const size_t next = i + 1 < count ? i + 1 : 0;
     const double* a = &input[2 * i];
     const double* b = &input[2 * next];
     const bool aInside = inside(a), bInside = inside(b);
@@ -46,7 +46,7 @@ unsigned int ClipStage(double* nodes, unsigned int count, Inside inside, Cross c
       emit(x, y);
     }
   }
-  return written;
+  return static_cast<unsigned int>(written);
 }
 
 // The point of the edge a-b whose coordinate `axis` equals `limit`, the other coordinate
@@ -87,7 +87,7 @@ bool polygon_is_clockwise(const double* nodes, unsigned int count) {
 bool PointInPolygon(double x, double y, double* nodes, unsigned int count) {
   if (count == 0 || !nodes) return false;
   bool inside = false;
-  for (unsigned int i = 0, j = count - 1; i < count; j = i++) {
+  for (size_t i = 0, j = count - 1; i < count; j = i++) {
     const double xi = nodes[2 * i], yi = nodes[2 * i + 1];
     const double xj = nodes[2 * j], yj = nodes[2 * j + 1];
     if ((yi > y) != (yj > y) && x < (y - yi) * (xj - xi) / (yj - yi) + xi) inside = !inside;

@@ -6,12 +6,17 @@
 // pairs whose closed bounding boxes overlap can meet, so candidate pairs come from a recursive
 // split of the edge boxes rather than from all n^2 pairs. Then one horizontal line per gap between
 // consecutive event values is checked for a region of winding number 2 or more, with an active
-// edge list that carries each line's crossing order on to the next line.
+// edge list that carries each line's crossing order on to the next line. Both stages walk the
+// edges in the order of their lower end, found by one radix sort of the nodes by y.
+#include "geometry/SelfIntersection.h"
+
 #include "lxcomp/LxGeometry.h"
 #include "lxcomp/LxPolygon.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace lx {
@@ -22,10 +27,11 @@ constexpr double kHalfTurn = 3.141592653589793;
 
 class PolygonView {
  public:
-  PolygonView(const double* nodes, unsigned count) : nodes_(nodes), count_(count) {}
+  PolygonView(const double* nodes, unsigned count)
+      : nodes_(nodes), count_(count), anyNaN_(AnyNaN()) {}
   unsigned Count() const { return count_; }
-  double X(unsigned node) const { return nodes_[2 * node]; }
-  double Y(unsigned node) const { return nodes_[2 * node + 1]; }
+  double X(unsigned node) const { return nodes_[2 * size_t{node}]; }
+  double Y(unsigned node) const { return nodes_[2 * size_t{node} + 1]; }
   bool SameNode(unsigned a, unsigned b) const { return X(a) == X(b) && Y(a) == Y(b); }
   bool IsAt(unsigned node, double x, double y) const { return X(node) == x && Y(node) == y; }
   // Edge k runs from StartOf(k) to node k; edge 0 is the closing edge from the last node.
@@ -34,7 +40,13 @@ class PolygonView {
   bool NonAdjacent(unsigned a, unsigned b) const {
     return b >= a + 2 && !(a == 0 && b == count_ - 1);
   }
+  bool AnyNaN() const {
+    for (size_t i = 0; i < 2 * size_t{count_}; ++i)
+      if (std::isnan(nodes_[i])) return true;
+    return false;
+  }
   bool HasNaN(unsigned edge) const {
+    if (!anyNaN_) return false;
     const unsigned s = StartOf(edge);
     return std::isnan(X(s)) || std::isnan(Y(s)) || std::isnan(X(edge)) || std::isnan(Y(edge));
   }
@@ -42,7 +54,77 @@ class PolygonView {
  private:
   const double* nodes_;
   unsigned count_;
+  bool anyNaN_;
 };
+
+struct Keyed {
+  double y;
+  std::uint32_t index;
+};
+
+bool Lower(const Keyed& a, const Keyed& b) {
+  return a.y < b.y;
+}
+
+// Sorts by y (no not-a-number): a distribution into one bucket per item by linear position
+// between the least and the greatest y, which is monotone in y, then a sort of each bucket.
+// Linear time for spread-out values, n log n at worst.
+void SortByY(std::vector<Keyed>& items) {
+  if (items.size() < 64) return std::sort(items.begin(), items.end(), Lower);
+  const auto [least, greatest] = std::minmax_element(items.begin(), items.end(), Lower);
+  const double low = least->y;
+  const double scale = static_cast<double>(items.size()) / (greatest->y - low);
+  if (!std::isfinite(scale) || !(scale > 0)) {  // infinite span or all equal
+    if (greatest->y != low) std::sort(items.begin(), items.end(), Lower);
+    return;
+  }
+  const size_t last = items.size() - 1;
+  auto bucketOf = [&](double y) { return std::min(last, static_cast<size_t>((y - low) * scale)); };
+  std::vector<std::uint32_t> start(items.size() + 1, 0);
+  for (const Keyed& item : items)
+    ++start[bucketOf(item.y) + 1];
+  for (size_t b = 1; b <= items.size(); ++b)
+    start[b] += start[b - 1];
+  std::vector<Keyed> sorted(items.size());
+  std::vector<std::uint32_t> fill(start.begin(), start.end() - 1);
+  for (const Keyed& item : items)
+    sorted[fill[bucketOf(item.y)]++] = item;
+  for (size_t b = 0; b < items.size(); ++b)
+    if (start[b + 1] - start[b] > 1)
+      std::sort(sorted.begin() + start[b], sorted.begin() + start[b + 1], Lower);
+  items.swap(sorted);
+}
+
+// Nodes in ascending y (not-a-number y left out), and edges in ascending y of their lower end.
+struct YOrder {
+  std::vector<std::uint32_t> nodes;
+  std::vector<std::uint32_t> edges;  // edges with no not-a-number y
+};
+
+YOrder OrderByY(const PolygonView& p) {
+  const unsigned n = p.Count();
+  std::vector<Keyed> keyed;
+  keyed.reserve(n);
+  for (unsigned v = 0; v < n; ++v)
+    if (!std::isnan(p.Y(v))) keyed.push_back({p.Y(v), v});
+  SortByY(keyed);
+  YOrder order;
+  order.nodes.reserve(keyed.size());
+  order.edges.reserve(keyed.size());
+  auto lowerEnd = [&](unsigned edge) {
+    const unsigned s = p.StartOf(edge);
+    return p.Y(s) <= p.Y(edge) ? s : edge;
+  };
+  for (const Keyed& k : keyed) {
+    const unsigned v = k.index;
+    order.nodes.push_back(v);
+    for (unsigned edge : {v, v + 1 == n ? 0 : v + 1}) {
+      const double y0 = p.Y(p.StartOf(edge)), y1 = p.Y(edge);
+      if (!std::isnan(y0) && !std::isnan(y1) && lowerEnd(edge) == v) order.edges.push_back(edge);
+    }
+  }
+  return order;
+}
 
 enum class Contact { None, Allowed, Forbidden };
 
@@ -86,32 +168,39 @@ bool BoxesOverlap(const EdgeBox& a, const EdgeBox& b) {
   return a.lo[0] <= b.hi[0] && b.lo[0] <= a.hi[0] && a.lo[1] <= b.hi[1] && b.lo[1] <= a.hi[1];
 }
 
-// Finds the meeting pairs of edges. Boxes are split recursively at a value of their lower
-// bounds; a box goes to the lower half when it starts below the split and to the upper half when
-// it ends at or above it. A pair is examined only in the part that holds the larger of its two
-// lower corners, so each overlapping pair is examined exactly once.
+EdgeBox BoxOf(const PolygonView& p, unsigned edge) {
+  const unsigned s = p.StartOf(edge);
+  return {{std::min(p.X(s), p.X(edge)), std::min(p.Y(s), p.Y(edge))},
+          {std::max(p.X(s), p.X(edge)), std::max(p.Y(s), p.Y(edge))},
+          edge};
+}
+
+// Finds the meeting pairs of edges. First a sweep upward over the edges' y extents with a list
+// of the edges still open; ordinary outlines keep that list short. When it grows long (many
+// edges spanning the same heights) the search starts over with a recursive split: boxes are
+// divided at a value of their lower bounds, a box going to the lower half when it starts below
+// the split and to the upper half when it ends at or above it, and a pair is examined only in
+// the part that holds the larger of its two lower corners, so exactly once.
 class PairSearch {
  public:
-  PairSearch(const PolygonView& polygon, std::vector<double>& events)
-      : polygon_(polygon), events_(events) {}
+  PairSearch(const PolygonView& polygon, std::vector<double>& contacts)
+      : polygon_(polygon), events_(contacts) {}
 
   // True when some pair crosses or overlaps in the same direction.
-  bool FindForbiddenContact() {
-    std::vector<EdgeBox> boxes;
+  bool FindForbiddenContact(const std::vector<std::uint32_t>& edgesByLowerY, PairSearchMode mode) {
     std::vector<unsigned> wild;  // edges with a not-a-number coordinate meet unpredictably
-    boxes.reserve(polygon_.Count());
-    for (unsigned k = 0; k < polygon_.Count(); ++k) {
-      if (polygon_.HasNaN(k)) {
-        wild.push_back(k);
-        continue;
-      }
-      const unsigned s = polygon_.StartOf(k);
-      boxes.push_back(
-          {{std::min(polygon_.X(s), polygon_.X(k)), std::min(polygon_.Y(s), polygon_.Y(k))},
-           {std::max(polygon_.X(s), polygon_.X(k)), std::max(polygon_.Y(s), polygon_.Y(k))},
-           k});
-    }
+    for (unsigned k = 0; k < polygon_.Count(); ++k)
+      if (polygon_.HasNaN(k)) wild.push_back(k);
     if (TestWildEdges(wild)) return true;
+    const size_t known = events_.size();
+    bool forbidden = false;
+    if (mode == PairSearchMode::Automatic && SweepUpward(edgesByLowerY, forbidden))
+      return forbidden;
+    events_.resize(known);
+    std::vector<EdgeBox> boxes;
+    boxes.reserve(polygon_.Count());
+    for (unsigned k = 0; k < polygon_.Count(); ++k)
+      if (!polygon_.HasNaN(k)) boxes.push_back(BoxOf(polygon_, k));
     const double unbounded = -INFINITY;
     return Visit(std::move(boxes), {unbounded, unbounded}, 0);
   }
@@ -139,6 +228,32 @@ class PairSearch {
       for (unsigned k = 0; k < polygon_.Count(); ++k)
         if (k != w && !(polygon_.HasNaN(k) && k < w) && TestPair(w, k)) return true;
     return false;
+  }
+
+  // False when the open list grew too long to finish this way.
+  bool SweepUpward(const std::vector<std::uint32_t>& edgesByLowerY, bool& forbidden) {
+    const size_t budget = 16 * size_t{polygon_.Count()} + 4096;
+    size_t work = 0;
+    std::vector<EdgeBox> open;
+    for (unsigned edge : edgesByLowerY) {
+      if (polygon_.HasNaN(edge)) continue;
+      const EdgeBox box = BoxOf(polygon_, edge);
+      size_t kept = 0;
+      for (const EdgeBox& o : open) {
+        if (o.hi[1] < box.lo[1]) continue;  // ended below this edge: closed for good
+        open[kept++] = o;
+        if (o.lo[0] <= box.hi[0] && box.lo[0] <= o.hi[0] && TestPair(o.edge, edge)) {
+          forbidden = true;
+          return true;
+        }
+      }
+      open.resize(kept);
+      open.push_back(box);
+      work += kept;
+      if (work > budget) return false;
+    }
+    forbidden = false;
+    return true;
   }
 
   bool Leaf(const std::vector<EdgeBox>& boxes, const Bounds& bounds) {
@@ -205,8 +320,9 @@ class PairSearch {
 
 struct Crossing {
   double x;
-  bool upward;
+  double upperY;  // the edge leaves the sweep once a line reaches this
   unsigned edge;
+  bool upward;
 };
 
 // Ascending x, downward before upward at equal x; not-a-number x last, so the order is total.
@@ -232,56 +348,39 @@ bool CoveredTwice(const std::vector<Crossing>& crossings) {
 // previous line stay in their order, so sorting a line is mostly a pass over sorted data.
 class WindingSweep {
  public:
-  explicit WindingSweep(const PolygonView& polygon) : polygon_(polygon) {
-    const unsigned n = polygon.Count();
-    for (unsigned k = 1; k <= n; ++k) {
-      const double y0 = polygon.Y(k - 1), y1 = polygon.Y(k % n);
-      if (y0 < y1 || y0 > y1) byLowerEnd_.push_back({std::min(y0, y1), k});
-    }
-    std::sort(byLowerEnd_.begin(), byLowerEnd_.end(),
-              [](const Entry& a, const Entry& b) { return a.lower < b.lower; });
-  }
+  WindingSweep(const PolygonView& polygon, const std::vector<std::uint32_t>& edgesByLowerY)
+      : polygon_(polygon), edgesByLowerY_(edgesByLowerY) {}
 
-  bool CoversTwice(std::vector<double>& events) {
-    events.erase(
-        std::remove_if(events.begin(), events.end(), [](double v) { return std::isnan(v); }),
-        events.end());
-    std::sort(events.begin(), events.end());
-    events.erase(std::unique(events.begin(), events.end()), events.end());
+  // `events` ascending and distinct.
+  bool CoversTwice(const std::vector<double>& events) {
     for (size_t g = 0; g + 1 < events.size(); ++g)
       if (LineCoveredTwice((events[g] + events[g + 1]) * 0.5)) return true;
     return false;
   }
 
  private:
-  struct Entry {
-    double lower;
-    unsigned edge;  // k: from node k-1 to node k (node count is node 0)
-  };
-
-  // Sets the crossing's x and direction; false when the edge does not pass strictly through.
-  bool Cross(Crossing& c, double line) const {
-    const unsigned n = polygon_.Count();
-    const unsigned from = c.edge - 1, to = c.edge % n;
-    const double y0 = polygon_.Y(from), y1 = polygon_.Y(to);
-    const bool upward = y0 < line && line < y1;
-    if (!upward && !(y0 > line && line > y1)) return false;
-    const double x0 = polygon_.X(from), x1 = polygon_.X(to);
-    c.x = (x1 - x0) * (line - y0) / (y1 - y0) + x0;
-    c.upward = upward;
-    return true;
+  void SetX(Crossing& c, double line) const {
+    const unsigned from = polygon_.StartOf(c.edge), to = c.edge;
+    const double x0 = polygon_.X(from), x1 = polygon_.X(to), y0 = polygon_.Y(from);
+    c.x = (x1 - x0) * (line - y0) / (polygon_.Y(to) - y0) + x0;
   }
 
   bool LineCoveredTwice(double line) {
+    // Lines only rise and every listed edge starts below the line, so an edge passes strictly
+    // through the line exactly while the line stays below its upper end.
     size_t kept = 0;
-    for (Crossing& c : active_)
-      if (Cross(c, line)) active_[kept++] = c;
+    for (const Crossing& c : active_)
+      if (line < c.upperY) active_[kept++] = c;
     active_.resize(kept);
-    for (; next_ < byLowerEnd_.size() && byLowerEnd_[next_].lower < line; ++next_) {
-      Crossing c{0, false, byLowerEnd_[next_].edge};
-      if (Cross(c, line)) active_.push_back(c);
+    for (; next_ < edgesByLowerY_.size(); ++next_) {
+      const unsigned edge = edgesByLowerY_[next_];
+      const double y0 = polygon_.Y(polygon_.StartOf(edge)), y1 = polygon_.Y(edge);
+      if (!(std::min(y0, y1) < line)) break;
+      if (line < std::max(y0, y1)) active_.push_back({0, std::max(y0, y1), edge, y0 < y1});
     }
     if (active_.size() < 3) return false;  // two crossings always wind -1..1
+    for (Crossing& c : active_)
+      SetX(c, line);
     InsertionSort();
     return CoveredTwice(active_);
   }
@@ -297,22 +396,48 @@ class WindingSweep {
   }
 
   const PolygonView& polygon_;
-  std::vector<Entry> byLowerEnd_;
+  const std::vector<std::uint32_t>& edgesByLowerY_;
   size_t next_ = 0;
   std::vector<Crossing> active_;
 };
 
+// Event values: the y of every node but the last (which repeats the first), and the y of every
+// allowed contact, ascending and distinct.
+std::vector<double> EventValues(const PolygonView& p, const std::vector<std::uint32_t>& nodesByY,
+                                std::vector<double>& contacts) {
+  std::vector<double> events;
+  events.reserve(nodesByY.size() + contacts.size());
+  for (unsigned v : nodesByY)
+    if (v + 1 < p.Count() && (events.empty() || events.back() != p.Y(v))) events.push_back(p.Y(v));
+  contacts.erase(
+      std::remove_if(contacts.begin(), contacts.end(), [](double v) { return std::isnan(v); }),
+      contacts.end());
+  if (contacts.empty()) return events;
+  std::sort(contacts.begin(), contacts.end());
+  const size_t middle = events.size();
+  events.insert(events.end(), contacts.begin(), contacts.end());
+  std::inplace_merge(events.begin(), events.begin() + middle, events.end());
+  events.erase(std::unique(events.begin(), events.end()), events.end());
+  return events;
+}
+
 }  // namespace
 
-bool SelfIntersectingPolygon(const double* nodes, unsigned int count) {
-  if (count < 4 || !nodes) return false;
+SelfIntersection ClassifySelfIntersection(const double* nodes, unsigned int count,
+                                          PairSearchMode mode) {
+  if (count < 4 || !nodes) return SelfIntersection::None;
   const PolygonView polygon(nodes, count);
-  std::vector<double> events;
-  events.reserve(count + 16);
-  for (unsigned i = 0; i + 1 < count; ++i)
-    events.push_back(polygon.Y(i));
-  if (PairSearch(polygon, events).FindForbiddenContact()) return true;
-  return WindingSweep(polygon).CoversTwice(events);
+  const YOrder order = OrderByY(polygon);
+  std::vector<double> contacts;
+  if (PairSearch(polygon, contacts).FindForbiddenContact(order.edges, mode))
+    return SelfIntersection::ForbiddenContact;
+  const std::vector<double> events = EventValues(polygon, order.nodes, contacts);
+  if (WindingSweep(polygon, order.edges).CoversTwice(events)) return SelfIntersection::CoveredTwice;
+  return SelfIntersection::None;
+}
+
+bool SelfIntersectingPolygon(const double* nodes, unsigned int count) {
+  return ClassifySelfIntersection(nodes, count) != SelfIntersection::None;
 }
 
 }  // namespace lx

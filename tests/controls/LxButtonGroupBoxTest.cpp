@@ -54,21 +54,22 @@ struct NavCase {
 
 TEST(TLxButtonGroup, KeysMoveAmongTheSpeedButtons) {
   const NavCase cases[] = {
-      {3, 3, 0, Qt::Key_Right, 1, true},    {3, 3, 2, Qt::Key_Right, 2, false},
-      {3, 3, 2, Qt::Key_Space, 0, true},    {3, 3, 0, Qt::Key_Space, 1, true},
-      {3, 3, 1, Qt::Key_Left, 0, true},     {3, 3, 0, Qt::Key_Left, 0, false},
-      {3, 3, 2, Qt::Key_Home, 0, true},     {3, 3, 1, Qt::Key_Up, 1, false},
-      {3, 3, 1, Qt::Key_End, 1, false},     {3, 3, 1, Qt::Key_PageDown, 1, false},
-      {4, 2, 0, Qt::Key_Down, 2, true},     {4, 2, 3, Qt::Key_Up, 1, true},
-      {4, 2, 2, Qt::Key_Down, 2, false},    {4, 2, 3, Qt::Key_Left, 2, true},
-      {3, 3, -1, Qt::Key_Space, 0, true},   {3, 3, -1, Qt::Key_Right, -1, false},
-      {3, 3, -1, Qt::Key_Home, 0, true},    {3, 3, 0, Qt::Key_A, 0, false},
+      {3, 3, 0, Qt::Key_Right, 1, true},  {3, 3, 2, Qt::Key_Right, 2, false},
+      {3, 3, 2, Qt::Key_Space, 0, true},  {3, 3, 0, Qt::Key_Space, 1, true},
+      {3, 3, 1, Qt::Key_Left, 0, true},   {3, 3, 0, Qt::Key_Left, 0, false},
+      {3, 3, 2, Qt::Key_Home, 0, true},   {3, 3, 1, Qt::Key_Up, 1, false},
+      {3, 3, 1, Qt::Key_End, 1, false},   {3, 3, 1, Qt::Key_PageDown, 1, false},
+      {4, 2, 0, Qt::Key_Down, 2, true},   {4, 2, 3, Qt::Key_Up, 1, true},
+      {4, 2, 2, Qt::Key_Down, 2, false},  {4, 2, 3, Qt::Key_Left, 2, true},
+      {3, 3, -1, Qt::Key_Space, 0, true}, {3, 3, -1, Qt::Key_Right, -1, false},
+      {3, 3, -1, Qt::Key_Home, 0, true},  {3, 3, 0, Qt::Key_A, 0, false},
   };
   for (const NavCase& c : cases) {
     Group g(c.count, c.columns);
     if (c.down >= 0) g.buttons[c.down]->setChecked(true);
     QTest::keyClick(g.group, c.key);
-    const QString where = QString("%1 buttons, down %2, key %3").arg(c.count).arg(c.down).arg(c.key);
+    const QString where =
+        QString("%1 buttons, down %2, key %3").arg(c.count).arg(c.down).arg(c.key);
     EXPECT_EQ(g.Current(), c.expected) << where.toStdString();
     EXPECT_EQ(g.parent.keys.isEmpty(), c.consumed) << where.toStdString();
     EXPECT_EQ(g.changes.count(), c.consumed ? 1 : 0) << where.toStdString();
@@ -100,8 +101,8 @@ TEST(TLxButtonGroup, WithoutSpeedButtonsEveryKeyPassesOn) {
   auto* group = new lx::TLxButtonGroup(&parent);
   group->setGeometry(0, 0, 90, 30);
   new QLabel("only a label", group);
-  for (Qt::Key key : {Qt::Key_Space, Qt::Key_Home, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
-                      Qt::Key_Down})
+  for (Qt::Key key :
+       {Qt::Key_Space, Qt::Key_Home, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down})
     QTest::keyClick(group, key);
   EXPECT_EQ(parent.keys.size(), 6);
 }

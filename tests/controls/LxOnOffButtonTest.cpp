@@ -87,6 +87,17 @@ TEST(TLxOnOffButton, StateIsPublishedAndAnnounced) {
   EXPECT_EQ(f.button->property("Caption").toString(), "Snap");
 }
 
+TEST(TLxOnOffButton, TabOrderIsThePlaceInTheFocusChain) {
+  Fixture f;
+  auto* second = new lx::TLxOnOffButton(&f.parent);
+  auto* third = new lx::TLxOnOffButton(&f.parent);
+  EXPECT_EQ(f.button->GetTabOrder(), 0);
+  EXPECT_EQ(second->property("TabOrder").toInt(), 1);
+  EXPECT_EQ(third->GetTabOrder(), 2);
+  second->SetTabStop(false);
+  EXPECT_EQ(second->focusPolicy(), Qt::ClickFocus);
+}
+
 TEST(TLxOnOffButton, PaintsAtAnySizeInEveryState) {
   for (const QSize& size : {QSize(0, 0), QSize(1, 1), QSize(3, 40), QSize(200, 2)}) {
     Fixture f;

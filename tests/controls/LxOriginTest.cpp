@@ -73,6 +73,12 @@ TEST(TLxOrigin, MouseNotifiesOnlyOnAChange) {
   EXPECT_EQ(s.changes.count(), 2);
 }
 
+TEST(TLxOrigin, AClickWithoutAPriorMovePicksTheCellUnderIt) {
+  Selector s;
+  QTest::mouseClick(s.origin, Qt::LeftButton, Qt::NoModifier, QPoint(70, 40));
+  EXPECT_EQ(s.origin->GetSelectedButton(), 6);
+}
+
 TEST(TLxOrigin, PressTakesTheFocusAndShowsTheCellPressedUntilRelease) {
   Selector s;
   QTest::mousePress(s.origin, Qt::RightButton, Qt::NoModifier, QPoint(80, 80));
@@ -107,14 +113,14 @@ struct KeyCase {
 
 TEST(TLxOrigin, KeysMoveTheSelectionAndAlwaysNotifyWhenTheyLeadSomewhere) {
   const KeyCase cases[] = {
-      {0, Qt::Key_Right, 6, 1},   {0, Qt::Key_Left, 4, 1},   {0, Qt::Key_Up, 2, 1},
-      {0, Qt::Key_Down, 8, 1},    {0, Qt::Key_Space, 6, 1},  {0, Qt::Key_Home, 5, 1},
-      {5, Qt::Key_Home, 5, 1},    {9, Qt::Key_Space, 1, 1},  {8, Qt::Key_Space, 9, 1},
-      {1, Qt::Key_Left, 1, 0},    {3, Qt::Key_Right, 3, 0},  {4, Qt::Key_Right, 5, 1},
-      {2, Qt::Key_Up, 2, 0},      {8, Qt::Key_Down, 8, 0},   {4, Qt::Key_Up, 1, 1},
-      {4, Qt::Key_Down, 7, 1},    {4, Qt::Key_PageUp, 4, 0}, {4, Qt::Key_PageDown, 4, 0},
-      {4, Qt::Key_End, 4, 0},     {4, Qt::Key_A, 4, 0},      {-3, Qt::Key_Right, 6, 1},
-      {12, Qt::Key_Space, 1, 1},  {12, Qt::Key_Up, 9, 1},    {12, Qt::Key_Down, 12, 0},
+      {0, Qt::Key_Right, 6, 1},  {0, Qt::Key_Left, 4, 1},   {0, Qt::Key_Up, 2, 1},
+      {0, Qt::Key_Down, 8, 1},   {0, Qt::Key_Space, 6, 1},  {0, Qt::Key_Home, 5, 1},
+      {5, Qt::Key_Home, 5, 1},   {9, Qt::Key_Space, 1, 1},  {8, Qt::Key_Space, 9, 1},
+      {1, Qt::Key_Left, 1, 0},   {3, Qt::Key_Right, 3, 0},  {4, Qt::Key_Right, 5, 1},
+      {2, Qt::Key_Up, 2, 0},     {8, Qt::Key_Down, 8, 0},   {4, Qt::Key_Up, 1, 1},
+      {4, Qt::Key_Down, 7, 1},   {4, Qt::Key_PageUp, 4, 0}, {4, Qt::Key_PageDown, 4, 0},
+      {4, Qt::Key_End, 4, 0},    {4, Qt::Key_A, 4, 0},      {-3, Qt::Key_Right, 6, 1},
+      {12, Qt::Key_Space, 1, 1}, {12, Qt::Key_Up, 9, 1},    {12, Qt::Key_Down, 12, 0},
   };
   for (const KeyCase& c : cases) {
     Selector s;
@@ -142,7 +148,7 @@ struct SelectionCase {
 
 TEST(TLxOrigin, SetSelectedButtonDerivesTheCellWithoutNotifying) {
   const SelectionCase cases[] = {
-      {3, 1, 0, 0}, {3, 5, 1, 1}, {3, 9, 2, 2}, {3, 4, 1, 0},  {4, 8, 1, 3},
+      {3, 1, 0, 0},    {3, 5, 1, 1},   {3, 9, 2, 2},  {3, 4, 1, 0},   {4, 8, 1, 3},
       {3, -4, -1, -2}, {3, -1, 0, -2}, {3, 13, 4, 0}, {0, 5, -1, -1}, {-2, 5, -1, -1},
   };
   for (const SelectionCase& c : cases) {
@@ -173,13 +179,20 @@ struct BadGrid {
 // Every way in (mouse, keys, painting) survives grids without cells and tiny sizes.
 TEST(TLxOrigin, DegenerateGridsNeverDivideByZero) {
   const BadGrid cases[] = {
-      {100, 100, 3, 0, 0},  {100, 100, 0, 3, 5},      {100, 100, -2, -3, 4},
-      {100, 100, 0, 0, -1}, {0, 0, 3, 3, 5},          {1, 1, 3, 3, 9},
-      {1, 1, 1, 1, 1},      {100, 100, 200, 200, 7},  {100, 100, 3, 3, INT_MAX},
-      {100, 100, 3, 3, INT_MIN}, {50, 50, INT_MAX, INT_MAX, INT_MIN},
+      {100, 100, 3, 0, 0},
+      {100, 100, 0, 3, 5},
+      {100, 100, -2, -3, 4},
+      {100, 100, 0, 0, -1},
+      {0, 0, 3, 3, 5},
+      {1, 1, 3, 3, 9},
+      {1, 1, 1, 1, 1},
+      {100, 100, 200, 200, 7},
+      {100, 100, 3, 3, INT_MAX},
+      {100, 100, 3, 3, INT_MIN},
+      {50, 50, INT_MAX, INT_MAX, INT_MIN},
   };
-  const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Home,  Qt::Key_Left,
-                          Qt::Key_Right, Qt::Key_Up,    Qt::Key_Down};
+  const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Home, Qt::Key_Left,
+                          Qt::Key_Right, Qt::Key_Up,   Qt::Key_Down};
   for (const BadGrid& c : cases) {
     Selector s(c.w, c.h);
     s.origin->SetNumRows(c.rows);
