@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgArc.h"
 #include "support/ModalDriver.h"
 
@@ -31,21 +32,8 @@ bool Visible(QWidget* dlg, const char* name) {
   return Find<QWidget>(dlg, name)->isVisible();
 }
 
-class ArcDlg : public ::testing::Test {
+class ArcDlg : public lxtest::DialogTest {
  protected:
-  void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& t, int, int h) {
-      messages_.push_back(t);
-      helps_.push_back(h);
-      return lx::mrOk;
-    });
-  }
-  void TearDown() override {
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
-  }
   bool Run(lx::ArcSettings& record, const std::function<void(lx::TDlgArc*)>& act) {
     ModalDriver::WhenModal([&](QWidget* w) {
       auto* dlg = qobject_cast<lx::TDlgArc*>(w);
@@ -57,9 +45,6 @@ class ArcDlg : public ::testing::Test {
     EXPECT_FALSE(ModalDriver::TakeFailure());
     return result;
   }
-  QWidget main_;
-  std::vector<QString> messages_;
-  std::vector<int> helps_;
 };
 
 // Runs first: the remembered mode starts as nodes mode.
@@ -180,9 +165,7 @@ TEST_F(ArcDlg, UnreadableFieldsKeepTheDialogOpenAndTheRecord) {
       Click(dlg, "CancelButton");
     });
     EXPECT_FALSE(ok);
-    ASSERT_EQ(messages_.size(), 1u) << c.typed;
-    EXPECT_EQ(messages_[0], c.message);
-    EXPECT_EQ(helps_[0], 4045);
+    EXPECT_EQ(Errors(4045), QStringList{c.message}) << c.typed;
     EXPECT_DOUBLE_EQ(record.EndY, 2000);
     EXPECT_EQ(record.Segments, 16);
   }

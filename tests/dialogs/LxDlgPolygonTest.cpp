@@ -16,6 +16,7 @@
 #include <functional>
 #include <vector>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgPolygon.h"
 #include "lxcomp/LxLayer.h"
 #include "support/ModalDriver.h"
@@ -25,12 +26,6 @@ namespace {
 using lxtest::Click;
 using lxtest::Find;
 using lxtest::ModalDriver;
-
-struct Message {
-  QString text;
-  int kind;
-  int help;
-};
 
 // A host record whose node array is allocated as a host does it, with new[].
 struct HostPolygon {
@@ -102,21 +97,15 @@ void SetClipboardText(const QString& text) {
   QGuiApplication::clipboard()->setText(text);
 }
 
-class PolygonDlg : public ::testing::Test {
+class PolygonDlg : public lxtest::DialogTest {
  protected:
   void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& t, int k, int h) {
-      messages_.push_back({t, k, h});
-      return lx::mrOk;
-    });
+    DialogTest::SetUp();
     QGuiApplication::clipboard()->clear();
   }
   void TearDown() override {
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
     QGuiApplication::clipboard()->clear();
+    DialogTest::TearDown();
   }
   // Opens the dialog on the record; `act` works in it and closes it.
   bool Run(HostPolygon& host, const std::function<void(lx::TDlgPolygon*)>& act) {
@@ -133,8 +122,6 @@ class PolygonDlg : public ::testing::Test {
     EXPECT_FALSE(ModalDriver::TakeFailure());
     return result;
   }
-  QWidget main_;
-  std::vector<Message> messages_;
 };
 
 const std::vector<double> kSquare = {0, 0, 1, 0, 1, 1, 0, 1};
@@ -220,10 +207,7 @@ TEST_F(PolygonDlg, EditingACellChangesTheNodeAndTheArea) {
     EXPECT_EQ(grid->currentIndex(), grid->model()->index(3, 1));
     EXPECT_EQ(grid->model()->index(2, 2).data().toString(), "1.5");
     TypeCell(grid, 0, 1, "abc");
-    ASSERT_EQ(messages_.size(), 1u);
-    EXPECT_EQ(messages_[0].text, "'abc' is not a valid number");
-    EXPECT_EQ(messages_[0].kind, -1);
-    EXPECT_EQ(messages_[0].help, 4030);
+    EXPECT_EQ(Errors(4030), QStringList{"'abc' is not a valid number"});
     EXPECT_EQ(DialogNodes(dlg), (std::vector<double>{0, 0, 2, 0, 1, 1.5, 0, 1}));
     Click(dlg, "OkButton");
   });
@@ -316,7 +300,7 @@ TEST_F(PolygonDlg, PasteInsertsBeforeOneRowAndReplacesSeveral) {
 TEST_F(PolygonDlg, InvalidClipboardTextChangesNothing) {
   struct Case {
     const char* text;
-    std::vector<QString> messages;
+    QStringList messages;
   };
   const Case cases[] = {
       {"abc", {"'abc' is not a valid number", "Invalid clipboard data"}},
@@ -331,11 +315,7 @@ TEST_F(PolygonDlg, InvalidClipboardTextChangesNothing) {
       SetClipboardText(c.text);
       SelectRows(GridOf(dlg), 1, 1);
       dlg->ButtonPasteClick();
-      ASSERT_EQ(messages_.size(), c.messages.size()) << c.text;
-      for (size_t i = 0; i < c.messages.size(); ++i) {
-        EXPECT_EQ(messages_[i].text, c.messages[i]);
-        EXPECT_EQ(messages_[i].help, 4030);
-      }
+      EXPECT_EQ(Errors(4030), c.messages) << c.text;
       EXPECT_EQ(DialogNodes(dlg), kSquare) << c.text;
     }
     Click(dlg, "CancelButton");

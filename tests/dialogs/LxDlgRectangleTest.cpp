@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgRectangle.h"
 #include "lxcomp/LxLayer.h"
 #include "lxcomp/LxOrigin.h"
@@ -44,21 +45,8 @@ void ChooseOrigin(QWidget* dlg, std::initializer_list<Qt::Key> keys) {
     QTest::keyClick(origin, key);
 }
 
-class RectangleDlg : public ::testing::Test {
+class RectangleDlg : public lxtest::DialogTest {
  protected:
-  void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& t, int, int h) {
-      messages_.push_back(t);
-      helps_.push_back(h);
-      return lx::mrOk;
-    });
-  }
-  void TearDown() override {
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
-  }
   bool Run(lx::RectangleSettings& record, const std::function<void(lx::TDlgRectangle*)>& act) {
     ModalDriver::WhenModal([&](QWidget* w) {
       auto* dlg = qobject_cast<lx::TDlgRectangle*>(w);
@@ -70,9 +58,6 @@ class RectangleDlg : public ::testing::Test {
     EXPECT_FALSE(ModalDriver::TakeFailure());
     return result;
   }
-  QWidget main_;
-  std::vector<QString> messages_;
-  std::vector<int> helps_;
 };
 
 // Runs first: the remembered mode and origin start as corners and centre.
@@ -251,9 +236,7 @@ TEST_F(RectangleDlg, UnreadableFieldsKeepTheDialogOpenAndTheRecord) {
       Click(dlg, "CancelButton");
     });
     EXPECT_FALSE(ok);
-    ASSERT_EQ(messages_.size(), 1u) << c.typed;
-    EXPECT_EQ(messages_[0], c.message);
-    EXPECT_EQ(helps_[0], 4010);
+    EXPECT_EQ(Errors(4010), QStringList{c.message}) << c.typed;
     EXPECT_DOUBLE_EQ(record.X2, 3000);
   }
 }

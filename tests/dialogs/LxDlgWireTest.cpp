@@ -11,6 +11,7 @@
 #include <functional>
 #include <vector>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgWire.h"
 #include "support/ModalDriver.h"
 
@@ -36,21 +37,11 @@ struct HostWire {
   lx::WireSettings settings{};
 };
 
-class WireDlg : public ::testing::Test {
+class WireDlg : public lxtest::DialogTest {
  protected:
-  void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& t, int, int h) {
-      messages_.push_back(t);
-      helps_.push_back(h);
-      return lx::mrOk;
-    });
-  }
   void TearDown() override {
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
     QGuiApplication::clipboard()->clear();
+    DialogTest::TearDown();
   }
   bool Run(HostWire& host, const std::function<void(lx::TDlgWire*)>& act) {
     ModalDriver::WhenModal([&](QWidget* w) {
@@ -63,9 +54,6 @@ class WireDlg : public ::testing::Test {
     EXPECT_FALSE(ModalDriver::TakeFailure());
     return result;
   }
-  QWidget main_;
-  std::vector<QString> messages_;
-  std::vector<int> helps_;
 };
 
 const std::vector<double> kPath = {0, 0, 3, 4, 3, 4, 3, 8};
@@ -123,9 +111,7 @@ TEST_F(WireDlg, AnUnreadableWidthKeepsTheDialogOpen) {
     lxtest::TypeInto(dlg, "EditW", "wide");
     Click(dlg, "OkButton");
     EXPECT_TRUE(dlg->isVisible());
-    ASSERT_EQ(messages_.size(), 1u);
-    EXPECT_EQ(messages_[0], "'wide' is not a valid number");
-    EXPECT_EQ(helps_[0], 4035);
+    EXPECT_EQ(Errors(4035), QStringList{"'wide' is not a valid number"});
     Click(dlg, "CancelButton");
   });
   EXPECT_FALSE(ok);
