@@ -35,6 +35,20 @@ QString DoubleText(double value) {
   return QString::fromWCharArray(text);
 }
 
+bool IsEnterKey(QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+// Enter moves on as nodes are typed: from x to y, from y to the next node's x.
+void MoveToNextCell(QTableView* grid, const QModelIndex& current) {
+  if (!current.isValid()) return;
+  const QModelIndex next =
+      current.column() == 1 ? current.siblingAtColumn(2) : current.sibling(current.row() + 1, 1);
+  if (next.isValid()) grid->setCurrentIndex(next);
+}
+
 // The clipboard looks at no more than this many nodes to decide whether it can be pasted.
 constexpr int kClipboardProbeNodes = 11;
 // Node counts travel as int, and a host array holds 2 * count + 2 doubles.
@@ -200,20 +214,12 @@ void TNodeCellDelegate::FinishEdit() {
 
 bool TNodeCellDelegate::eventFilter(QObject* watched, QEvent* event) {
   auto* editor = qobject_cast<QWidget*>(watched);
-  if (editor && event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      const QModelIndex current = grid_->currentIndex();
-      emit commitData(editor);
-      emit closeEditor(editor, NoHint);
-      if (current.isValid()) {
-        const bool onX = current.column() == 1;
-        const QModelIndex next =
-            onX ? current.siblingAtColumn(2) : current.sibling(current.row() + 1, 1);
-        if (next.isValid()) grid_->setCurrentIndex(next);
-      }
-      return true;
-    }
+  if (editor && IsEnterKey(event)) {
+    const QModelIndex current = grid_->currentIndex();
+    emit commitData(editor);
+    emit closeEditor(editor, NoHint);
+    MoveToNextCell(grid_, current);
+    return true;
   }
   return QStyledItemDelegate::eventFilter(watched, event);
 }
@@ -243,6 +249,15 @@ TNodeTableEditor::TNodeTableEditor(TLxDlgBase* dialog, QTableView* grid,
   grid->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
   grid->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
   grid->horizontalHeader()->setHighlightSections(false);
+  grid->installEventFilter(this);
+}
+
+bool TNodeTableEditor::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == grid_ && IsEnterKey(event)) {
+    MoveToNextCell(grid_, grid_->currentIndex());
+    return true;  // Enter in the table moves on; it does not press the dialog's OK button
+  }
+  return QObject::eventFilter(watched, event);
 }
 
 void TNodeTableEditor::Load(const double* nodes, int count) {

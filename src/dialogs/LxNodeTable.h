@@ -126,6 +126,9 @@ class TNodeTableEditor : public QObject {
   // The nodes changed in a way that changes the derived figure (area or length).
   void NodesChanged();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void SelectRows(int top, int bottom);
 

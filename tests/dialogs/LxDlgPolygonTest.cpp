@@ -205,6 +205,9 @@ TEST_F(PolygonDlg, EditingACellChangesTheNodeAndTheArea) {
     EXPECT_EQ(grid->currentIndex(), grid->model()->index(1, 2));
     TypeCell(grid, 2, 2, "3/2");
     EXPECT_EQ(grid->currentIndex(), grid->model()->index(3, 1));
+    QTest::keyClick(grid, Qt::Key_Return);  // not editing: moves on, does not press OK
+    EXPECT_EQ(grid->currentIndex(), grid->model()->index(3, 2));
+    EXPECT_TRUE(dlg->isVisible());
     EXPECT_EQ(grid->model()->index(2, 2).data().toString(), "1.5");
     TypeCell(grid, 0, 1, "abc");
     EXPECT_EQ(Errors(4030), QStringList{"'abc' is not a valid number"});
