@@ -64,7 +64,8 @@ TEST(NodeText, PrintsOneNodePerLineAsTheTableShowsThem) {
   EXPECT_EQ(lx::PrintNodeText(nodes, 0, 0), "");
   double back[4] = {};
   ASSERT_EQ(lx::ScanNodeText(lx::PrintNodeText(nodes, 0, 2), 10, back).nodes, 2);
-  for (int i = 0; i < 4; ++i) EXPECT_DOUBLE_EQ(back[i], nodes[i]);
+  for (int i = 0; i < 4; ++i)
+    EXPECT_DOUBLE_EQ(back[i], nodes[i]);
 }
 
 class NodeModel : public ::testing::Test {
