@@ -30,8 +30,8 @@ QString MicronText(double nanometres) {
 }
 
 QString DoubleText(double value) {
-  wchar_t text[64];
-  PrintDouble(value, text, 64);
+  wchar_t text[256];
+  PrintDouble(value, text, 256);
   return QString::fromWCharArray(text);
 }
 

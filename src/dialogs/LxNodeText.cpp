@@ -43,8 +43,10 @@ bool ReadNumber(const QChar* begin, const QChar* end, double* nanometres) {
   const QString token(begin, end - begin);
   double value = 0;
   if (!IsExpression(token) || EvaluateExpression(token, &value)) return false;
-  *nanometres = value * 1000.0;
-  return true;
+  // The value goes the way of a typed expression: printed, then read as a length.
+  wchar_t printed[256];
+  PrintDouble(value, printed, 256);
+  return !GetCoordinateNoMessage(printed, nanometres);
 }
 
 const QChar* TokenEnd(const QChar* p, const QChar* end) {

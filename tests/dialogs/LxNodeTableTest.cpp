@@ -35,6 +35,8 @@ TEST(NodeText, ReadsNodesByTheClipboardRules) {
       {"1\n2", {}, true, ""},
       {"1 2\n\r\n3 4", {1000, 2000}, true, "\r"},
       {"inf 0", {}, true, "inf"},
+      {"10^400 0", {}, true, "10^400"},
+      {"1/0 0", {}, true, "1/0"},
   };
   for (const ScanCase& c : cases) {
     const QString text = QString::fromUtf8(c.text);
