@@ -16,7 +16,7 @@ double polygonarea(const double* nodes, unsigned int count);
 bool polygon_is_clockwise(const double* nodes, unsigned int count);
 
 // Even-odd test with a half-open rule: points on left or bottom edges count as inside, points
-// on right or top edges as outside (for a counter-clockwise rectangle).
+// on right or top edges as outside. A count of 0 is outside.
 bool PointInPolygon(double x, double y, double* nodes, unsigned int count);
 
 // One Sutherland-Hodgman stage against an axis-parallel line, in place; returns the new count.

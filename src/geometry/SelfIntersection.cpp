@@ -1,13 +1,15 @@
-// Self-intersection of a closed polygon in O(n log n) for ordinary outlines.
+// Self-intersection of a closed polygon in O(n log n) for ordinary outlines, with exactly the
+// verdict of the plain rule that compares every pair of edges and every edge with every line.
 //
 // The decision has two stages. First every pair of non-adjacent edges that meets is classified:
 // a true crossing or a same-direction overlap decides at once, allowed contacts (shared vertices,
 // cut lines traversed out and back) add the y of their contact point to the event values. Only
-// pairs whose closed bounding boxes overlap can meet, so candidate pairs come from a recursive
-// split of the edge boxes rather than from all n^2 pairs. Then one horizontal line per gap between
-// consecutive event values is checked for a region of winding number 2 or more, with an active
-// edge list that carries each line's crossing order on to the next line. Both stages walk the
-// edges in the order of their lower end, found by one radix sort of the nodes by y.
+// pairs whose closed bounding boxes overlap can meet, so candidate pairs come from a sweep over
+// the edges' y extents (or a recursive split of the edge boxes) rather than from all n^2 pairs.
+// Then one horizontal line per gap between consecutive event values is checked for a region of
+// winding number 2 or more, with an active-edge list that carries each line's crossing order on
+// to the next line. Both stages walk the edges in the order of their lower end, found by one
+// sort of the nodes by y.
 #include "geometry/SelfIntersection.h"
 
 #include "lxcomp/LxGeometry.h"
@@ -128,10 +130,6 @@ YOrder OrderByY(const PolygonView& p) {
 
 enum class Contact { None, Allowed, Forbidden };
 
-bool AllowedByNodes(bool orderOpposite, bool touchA, bool touchB) {
-  return orderOpposite || touchA || touchB;
-}
-
 // Classifies edges i < j (non-adjacent), each taken from its end node back to its start node.
 Contact ClassifyPair(const PolygonView& p, unsigned i, unsigned j, double& contactY) {
   const unsigned ip = p.StartOf(i), jp = j - 1;
@@ -143,9 +141,9 @@ Contact ClassifyPair(const PolygonView& p, unsigned i, unsigned j, double& conta
   const double dxi = p.X(jp) - p.X(j), dyi = p.Y(jp) - p.Y(j);
   bool allowed;
   if (dxo == 0 && dxi == 0) {
-    allowed = AllowedByNodes(dyo * dyi <= 0, p.Y(i) == p.Y(jp), p.Y(ip) == p.Y(j));
+    allowed = dyo * dyi <= 0 || p.Y(i) == p.Y(jp) || p.Y(ip) == p.Y(j);
   } else if (dyo == 0 && dyi == 0) {
-    allowed = AllowedByNodes(dxo * dxi <= 0, p.X(i) == p.X(jp), p.X(ip) == p.X(j));
+    allowed = dxo * dxi <= 0 || p.X(i) == p.X(jp) || p.X(ip) == p.X(j);
   } else {
     const double ao = std::atan2(dyo, dxo), ai = std::atan2(dyi, dxi);
     if (SameAngleRadians(ao, ai))

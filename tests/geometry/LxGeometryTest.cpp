@@ -230,7 +230,7 @@ TEST(LineIntersection2, AxisParallelLinesNeedNoDivisionByZero) {
   }
 }
 
-TEST(LinesBySlope, IntersectionAndDistance) {
+TEST(LinesBySlope, IntersectionDistanceAndAngle) {
   double x, y;
   lx::LineIntersection(0, 0, 1, 0, 4, -1, x, y);
   EXPECT_DOUBLE_EQ(x, 2);
@@ -240,12 +240,6 @@ TEST(LinesBySlope, IntersectionAndDistance) {
   EXPECT_DOUBLE_EQ(lx::DistanceToLine(0, 3, 0, 7, -2), 5);
   EXPECT_DOUBLE_EQ(lx::DistanceToLine(0, 0, 1, 0, 2), std::sqrt(2.0));
   EXPECT_DOUBLE_EQ(lx::Distance(1, 1, 4, 5), 5);
-}
-
-TEST(Vectors, DotPerpDotAndSignedAngle) {
-  EXPECT_EQ(lx::Dot(1, 2, 3, 4), 11);
-  EXPECT_EQ(lx::PerpDot(1, 2, 3, 4), -2);
-  EXPECT_DOUBLE_EQ(lx::SignedAngle(1, 0, 0, 1), M_PI / 2);
   EXPECT_DOUBLE_EQ(lx::SignedAngle(0, 1, 1, 0), -M_PI / 2);
   EXPECT_DOUBLE_EQ(lx::SignedAngle(1, 0, -1, 0), M_PI);
 }
