@@ -59,6 +59,15 @@ SampleLayout::SampleLayout() {
   small.nodes = {{50000, 45000}};
   small.radius = 2500;
   objects_.push_back(small);
+  SampleObject arc;  // a half circle of 12 segments
+  arc.kind = SampleObject::Arc;
+  arc.layer = 4;
+  arc.width = 1500;
+  arc.centre = {100000, 40000};
+  for (int i = 0; i <= 12; ++i)
+    arc.nodes.push_back(arc.centre +
+                        12000 * QPointF(std::cos(M_PI * i / 12), std::sin(M_PI * i / 12)));
+  objects_.push_back(arc);
   BuildLayerList();
 }
 

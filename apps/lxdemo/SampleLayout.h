@@ -26,6 +26,7 @@ struct SampleObject {
   double length = 0;           // boxes
   double angle = 0;            // boxes, degrees
   int segments = 0;            // rings
+  QPointF centre;              // arcs, whose nodes are the drawn segments
 };
 
 class SampleLayout {
