@@ -34,10 +34,7 @@ TDlgArc::TDlgArc(QWidget* owner) : TLxDlgBase(owner), ui_(new Ui::TDlgArc) {
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-TDlgArc::~TDlgArc() {
-  // The fields go while the base form still keeps its list of them.
-  qDeleteAll(ClientArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-}
+TDlgArc::~TDlgArc() = default;
 
 bool TDlgArc::NodesMode() const {
   return ui_->BtnNodes->isChecked();

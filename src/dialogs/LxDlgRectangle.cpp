@@ -68,10 +68,7 @@ TDlgRectangle::TDlgRectangle(QWidget* owner) : TLxDlgBase(owner), ui_(new Ui::TD
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-TDlgRectangle::~TDlgRectangle() {
-  // The fields go while the base form still keeps its list of them.
-  qDeleteAll(ClientArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-}
+TDlgRectangle::~TDlgRectangle() = default;
 
 TDlgRectangle::TMode TDlgRectangle::Mode() const {
   if (ui_->ButtonBox->isChecked()) return Box;

@@ -27,10 +27,7 @@ TDlgWire::TDlgWire(QWidget* owner) : TLxDlgBase(owner), ui_(new Ui::TDlgWire) {
   connect(ui_->ButtonPaste, &QPushButton::clicked, this, [this] { ButtonPasteClick(); });
 }
 
-TDlgWire::~TDlgWire() {
-  // The fields go while the base form still keeps its list of them.
-  qDeleteAll(ClientArea()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
-}
+TDlgWire::~TDlgWire() = default;
 
 void TDlgWire::DlgInit(WireSettings* settings) {
   settings_ = settings;
