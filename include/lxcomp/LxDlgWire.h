@@ -5,18 +5,14 @@
 #include <cstdint>
 #include <memory>
 
-#include "lxcomp/LxDlgBase.h"
+#include "lxcomp/LxDlgNodeTable.h"
 #include "lxcomp/LxLayer.h"
-
-class QTableView;
 
 namespace Ui {
 class TDlgWire;
 }
 
 namespace lx {
-
-class TNodeTableEditor;
 
 // Nodes as in PolygonSettings (allocated with new[], replaced on OK when the wire grew).
 // EndStyle: 0 round, 1 flat, 2 extended. MakeDefault is only written.
@@ -30,7 +26,7 @@ struct WireSettings {
   const TK5Layer* Layers;
 };
 
-class TDlgWire : public TLxDlgBase {
+class TDlgWire : public TLxDlgNodeTable {
   Q_OBJECT
 
  public:
@@ -40,30 +36,14 @@ class TDlgWire : public TLxDlgBase {
   void DlgInit(WireSettings* settings);
   // Shows the sum of the segment lengths in micrometres.
   void CalculateLength();
-  void CheckClipboard();
-  void WMClipboard();
 
-  QString AdvGridGetDisplText(int col, int row) const;
-  QString AdvGridGetEditText(int col, int row);
-  void AdvGridEditChange(const QString& value);
-  void AdvGridEditCellDone();
-  void AdvGridEditingDone();
-  void AdvGridResize();
-
-  void ButtonDeleteClick(QObject* sender = nullptr);
-  void ButtonInsertClick(QObject* sender = nullptr);
-  void ButtonAddClick(QObject* sender = nullptr);
-  void ButtonCopyClick(QObject* sender = nullptr);
-  void ButtonPasteClick(QObject* sender = nullptr);
   void OkButtonClick(QObject* sender = nullptr) override;
 
-  int GetNodeCount() const;
-  const double* GetNodes() const;
-  QTableView* Grid() const;
+ protected:
+  void NodesChanged() override { CalculateLength(); }
 
  private:
   std::unique_ptr<Ui::TDlgWire> ui_;
-  TNodeTableEditor* table_ = nullptr;
   WireSettings* settings_ = nullptr;
 };
 
