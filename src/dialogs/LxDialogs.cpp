@@ -1,8 +1,11 @@
 #include "lxcomp/LxDialogs.h"
 
-#include <QMessageBox>
+#include <QListWidget>
+#include <QPushButton>
 
-#include "lxcomp/LxPlatform.h"
+#include "lxcomp/LxDlgError.h"
+#include "lxcomp/LxDlgInput.h"
+#include "lxcomp/LxDlgOverwrite.h"
 
 namespace lx {
 namespace {
@@ -11,41 +14,27 @@ QString FromWide(const wchar_t* text) {
   return text ? QString::fromWCharArray(text) : QString();
 }
 
-// Shows the box (or hands it to the host's hook) and returns its modal result.
+// Hands the box to the host's hook when one is set, otherwise shows it; returns its result.
 int ShowBox(const QString& text, int kind, int helpContext) {
   if (const MessageHook& hook = GetMessageHook()) return hook(text, kind, helpContext);
-  QMessageBox box(MainForm());
-  box.setWindowTitle(kind < 0 ? QStringLiteral("Korvet 6 - Error") : QStringLiteral("Korvet 6"));
-  box.setText(text);
-  box.setIcon(kind < 0 ? QMessageBox::Critical : QMessageBox::Warning);
-  switch (kind) {
-    case 2:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
-      break;
-    case 1:
-      box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-      break;
-    case 0:
-      box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-      break;
-    default:
-      box.setStandardButtons(QMessageBox::Ok);
-      break;
-  }
-  switch (box.exec()) {
-    case QMessageBox::Ok:
-      return mrOk;
-    case QMessageBox::Yes:
-      return mrYes;
-    case QMessageBox::No:
-      return mrNo;
-    default:
-      return mrCancel;
-  }
+  TLxDlgError box(MainForm(), text, kind, helpContext);
+  return box.exec();
 }
 
 int Unattended(int kind, int otherwise) {
   return (kind == 1 || kind == 2) ? mrYes : otherwise;
+}
+
+// Runs one of the input box's modes; nothing escapes.
+template <class Mode>
+bool RunInput(const wchar_t* title, const wchar_t* question, int helpContext, Mode mode) noexcept {
+  try {
+    TLxDlgInput box(MainForm());
+    box.SetTitleQuestionHelp(title, question, helpContext);
+    return mode(box);
+  } catch (...) {
+    return false;
+  }
 }
 
 }  // namespace
@@ -56,17 +45,63 @@ void ShowK6Error(const wchar_t* text, int helpContext) {
 
 void ShowK6Error(const QString& text, int helpContext) {
   if (!MainFormShowing()) return;
-  ShowBox(text, -1, helpContext);
+  try {
+    ShowBox(text, -1, helpContext);
+  } catch (...) {
+  }
 }
 
 int ShowK6Message(const wchar_t* text, int kind, int helpContext) {
   if (!MainFormShowing()) return Unattended(kind, mrOk);
-  return ShowBox(FromWide(text), kind, helpContext);
+  try {
+    return ShowBox(FromWide(text), kind, helpContext);
+  } catch (...) {
+    return mrNone;
+  }
 }
 
 int ShowK6Message(const QString& text, int kind, int helpContext) {
   if (!MainFormShowing()) return Unattended(kind, mrNone);
-  return ShowBox(text, kind, helpContext);
+  try {
+    return ShowBox(text, kind, helpContext);
+  } catch (...) {
+    return mrNone;
+  }
+}
+
+bool ShowK6InputDlg(QString* text, const wchar_t* title, const wchar_t* question, int helpContext,
+                    const wchar_t* allowed) {
+  return RunInput(title, question, helpContext,
+                  [&](TLxDlgInput& box) { return box.SimpleTextInput(text, allowed); });
+}
+
+bool ShowK6InputDlgWithCheckBox(QString* text, bool* checked, const wchar_t* title,
+                                const wchar_t* question, const wchar_t* checkCaption,
+                                int helpContext, const wchar_t* allowed) {
+  return RunInput(title, question, helpContext, [&](TLxDlgInput& box) {
+    return box.TextInputWithCheckbox(text, checked, checkCaption, allowed);
+  });
+}
+
+bool ShowK6InputDlgComboBox(QString* text, QStringList* items, const wchar_t* title,
+                            const wchar_t* question, int helpContext) {
+  return RunInput(title, question, helpContext,
+                  [&](TLxDlgInput& box) { return box.ComboBoxInput(text, items); });
+}
+
+int ShowOverwriteMessage(QStringList* names, int helpContext) {
+  try {
+    TDlgOverwrite box(MainForm());
+    box.SetHelpContext(helpContext);
+    if (helpContext == 0) {
+      box.HelpButton()->hide();
+      box.HelpButton()->setEnabled(false);
+    }
+    if (names) box.SetNames(*names);
+    return box.exec();
+  } catch (...) {
+    return mrNone;
+  }
 }
 
 }  // namespace lx
