@@ -1,10 +1,10 @@
 // The arithmetic expression evaluator behind every numeric field.
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstdint>
+#include <memory>
 
 namespace lx {
 
@@ -32,6 +32,8 @@ class TLxParser {
 
  private:
   int nexttoken();
+  int numeral();
+  int symbol();
   bool isvar();
   bool isfunc(const char* name);
   void push(const TOKENREC* token);
@@ -47,7 +49,10 @@ class TLxParser {
   bool error_ = false;
   const char* input_ = nullptr;
   char word_[6] = {};
-  QByteArray text_;
+  // The expression as UTF-8: short texts live in the parser itself, longer ones on the heap.
+  const char* text_ = nullptr;
+  char shortText_[96];
+  std::unique_ptr<char[]> longText_;
   double variable_ = 0.0;
   bool noVariable_ = false;
 };
