@@ -42,6 +42,8 @@ class TLxColorBox : public QWidget {
  signals:
   // After the box has painted itself, so that an owner can follow its colour.
   void OnPaint(QObject* sender);
+  // The stored colour changed.
+  void OnChange(QObject* sender);
   // A left-button click (press and release inside the box).
   void OnClick(QObject* sender);
 

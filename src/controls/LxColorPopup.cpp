@@ -93,6 +93,7 @@ void TLxColorBox::SetColor(TColor color) {
   if (color == color_) return;
   color_ = color;
   update();
+  emit OnChange(this);
 }
 
 void TLxColorBox::ShowPreview(TColor color) {
