@@ -37,6 +37,43 @@ SampleLayout::SampleLayout() {
   circle.nodes = {{15000, 48000}};
   circle.radius = 5000;
   objects_.push_back(circle);
+  SampleObject ring;
+  ring.kind = SampleObject::Ring;
+  ring.layer = 3;
+  ring.nodes = {{85000, 40000}};
+  ring.radius = 9000;
+  ring.width = 3000;
+  ring.segments = 32;
+  objects_.push_back(ring);
+  SampleObject box;
+  box.kind = SampleObject::Box;
+  box.layer = 2;
+  box.nodes = {{85000, 10000}};
+  box.length = 16000;
+  box.width = 6000;
+  box.angle = 30;
+  objects_.push_back(box);
+  SampleObject small;
+  small.kind = SampleObject::Circle;
+  small.layer = 1;
+  small.nodes = {{50000, 45000}};
+  small.radius = 2500;
+  objects_.push_back(small);
+  BuildLayerList();
+}
+
+// One layer record per sample layer, linked in the same order, each with its own fill pattern.
+void SampleLayout::BuildLayerList() {
+  const char fillStyles[] = {2, -1, 3, 5};
+  layerRecords_.clear();
+  for (size_t i = 0; i < layers_.size(); ++i) {
+    const SampleLayer& layer = layers_[i];
+    auto record = std::make_unique<lx::TK5Layer>(layer.number, layer.number, 0, layer.name,
+                                                 lx::FromQColor(layer.color), -1,
+                                                 fillStyles[i % sizeof fillStyles], 0, false);
+    if (!layerRecords_.empty()) layerRecords_.back()->Next = record.get();
+    layerRecords_.push_back(std::move(record));
+  }
 }
 
 const SampleLayer* SampleLayout::Layer(int number) const {

@@ -5,7 +5,10 @@
 #include <QPointF>
 #include <QString>
 
+#include <memory>
 #include <vector>
+
+#include "lxcomp/LxLayer.h"
 
 struct SampleLayer {
   int number = 0;
@@ -31,10 +34,16 @@ class SampleLayout {
   std::vector<SampleLayer>& Layers() { return layers_; }
   std::vector<SampleObject>& Objects() { return objects_; }
   const SampleLayer* Layer(int number) const;
+  // The same layers as the library's linked layer list, for the dialogs' layer pickers.
+  const lx::TK5Layer* LayerList() const {
+    return layerRecords_.empty() ? nullptr : layerRecords_.front().get();
+  }
   // The topmost object under a point (nanometres), or -1.
   int ObjectAt(QPointF point, double tolerance) const;
 
  private:
+  void BuildLayerList();
   std::vector<SampleLayer> layers_;
   std::vector<SampleObject> objects_;
+  std::vector<std::unique_ptr<lx::TK5Layer>> layerRecords_;
 };

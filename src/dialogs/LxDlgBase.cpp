@@ -5,6 +5,7 @@
 #include <QFocusEvent>
 #include <QFontDatabase>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
@@ -80,6 +81,11 @@ TLxDlgBase::TLxDlgBase(QWidget* parent) : QDialog(parent), baseUi_(new Ui::TLxDl
 
 TLxDlgBase::~TLxDlgBase() {
   FormDestroy(this);
+  // The fields outlive this part of the dialog: they go with the QWidget base.
+  for (QObject* watched : exitFields_ + drawnTabs_) {
+    watched->removeEventFilter(this);
+    disconnect(watched, nullptr, this, nullptr);
+  }
 }
 
 QWidget* TLxDlgBase::ClientArea() const {
@@ -306,6 +312,10 @@ void TLxDlgBase::FormDestroy(QObject*) {
 void TLxDlgBase::GrowToFitText(int minimumHeight) {
   if (growing_ || !layout()) return;
   growing_ = true;
+  // Controls shown or hidden while the dialog is hidden reach the layouts only when asked.
+  if (QLayout* client = ClientArea()->layout()) client->invalidate();
+  ClientArea()->updateGeometry();
+  layout()->invalidate();
   layout()->activate();
   const int needed = std::max(minimumHeight, layout()->totalHeightForWidth(width()));
   setMinimumHeight(needed);

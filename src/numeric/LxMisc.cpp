@@ -26,22 +26,25 @@ constexpr int kQuotedChars = 20;
 
 // The readers' local copy of their input, NUL-terminated at index 30 at the latest.
 struct ParseBuffer {
-  wchar_t text[kParseChars + 2] = {};
+  wchar_t text[kParseChars + 2];
   int length = 0;
 
   explicit ParseBuffer(const wchar_t* source) {
-    if (!source) return;
-    while (length < kParseChars && source[length] != 0) {
-      text[length] = source[length];
-      ++length;
-    }
+    if (source)
+      while (length < kParseChars && source[length] != 0) {
+        text[length] = source[length];
+        ++length;
+      }
+    text[length] = 0;
   }
   explicit ParseBuffer(QStringView source) {
     const int limit = static_cast<int>(std::min<qsizetype>(source.size(), kParseChars));
-    while (length < limit && source[length].unicode() != 0) {
-      text[length] = source[length].unicode();
+    const char16_t* units = source.utf16();
+    while (length < limit && units[length] != 0) {
+      text[length] = units[length];
       ++length;
     }
+    text[length] = 0;
   }
   QString ToString() const { return QString::fromWCharArray(text, length); }
 };

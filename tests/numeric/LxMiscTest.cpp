@@ -1,0 +1,316 @@
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QWidget>
+
+#include <charconv>
+#include <climits>
+#include <cmath>
+#include <cstring>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "lxcomp/LxMisc.h"
+#include "lxcomp/LxPlatform.h"
+
+namespace {
+
+constexpr double kUntouched = -777.0;
+const double kInf = HUGE_VAL;
+
+struct ReadCase {
+  const wchar_t* text;
+  std::optional<double> value;  // nothing: the text does not read
+};
+
+// Runs one reader form and checks the value, or that a failure left the output alone.
+template <typename Reader>
+void ExpectRead(Reader read, const ReadCase& c, double scale) {
+  double out = kUntouched;
+  const bool failed = read(c.text, &out);
+  EXPECT_EQ(failed, !c.value.has_value()) << QString::fromWCharArray(c.text).toStdString();
+  EXPECT_EQ(out, c.value ? *c.value * scale : kUntouched)
+      << QString::fromWCharArray(c.text).toStdString();
+}
+
+TEST(GetCoordinate, ReadsMicrometresAsNanometres) {
+  const ReadCase cases[] = {
+      {L"12.5", 12.5},
+      {L"12,5", 12.5},
+      {L" 12.5", 12.5},
+      {L"12.5 ", 12.5},
+      {L"12.5 mm", 12.5},
+      {L"12.5\tx", 12.5},
+      {L"12.5\n", 12.5},
+      {L"12.5\r", 12.5},
+      {L"+3", 3.0},
+      {L"-3", -3.0},
+      {L"1e3", 1000.0},
+      {L"1E-3", 0.001},
+      {L"1.", 1.0},
+      {L".5", 0.5},
+      {L",5", 0.5},
+      {L"\t\n 7", 7.0},
+      {L"12.5mm", {}},
+      {L"", {}},
+      {L"abc", {}},
+      {L"1,000.5", {}},
+      {L"inf", {}},
+      {L"-INF", {}},
+      {L"nan", {}},
+      {L"0x10", {}},
+      {L"1.2.3", {}},
+      {L".", {}},
+      {L"-", {}},
+      {L"1e", {}},
+      {L"12.5\v", {}},
+      {L" ,5", {}},
+      {L"1e999", {}},
+      {L"1e306", {}},
+      {L"\u0661\u0662", {}},
+      {L"12\u00a0", {}},
+      {L"1\u20002", {}},
+      {L"e5", {}},
+      {L"1234567890123456789012345678901234", 123456789012345678901234567890.0},
+  };
+  for (const ReadCase& c : cases) {
+    ExpectRead([](const wchar_t* t, double* v) { return lx::GetCoordinateNoMessage(t, v); }, c,
+               1000.0);
+    ExpectRead([](const wchar_t* t,
+                  double* v) { return lx::GetCoordinateNoMessage(QString::fromWCharArray(t), v); },
+               c, 1000.0);
+  }
+}
+
+TEST(GetDouble, ReadsRealsAndInfinityWords) {
+  const ReadCase cases[] = {
+      {L"2.5", 2.5},    {L"-1e-400", -0.0}, {L"inf", kInf},  {L"-INF", -kInf}, {L"xINFx", kInf},
+      {L" -inf", kInf}, {L"-1,5", -1.5},    {L"Inf", {}},    {L"1e999", {}},   {L"nan", {}},
+      {L"", {}},        {L"0x1p3", {}},     {L"12.5mm", {}}, {L"--1", {}},
+  };
+  for (const ReadCase& c : cases) {
+    ExpectRead([](const wchar_t* t, double* v) { return lx::GetDoubleNoMessage(t, v); }, c, 1.0);
+    ExpectRead([](const wchar_t* t,
+                  double* v) { return lx::GetDoubleNoMessage(QString::fromWCharArray(t), v); },
+               c, 1.0);
+  }
+}
+
+TEST(GetNumber, RoundsHalfAwayFromZero) {
+  const struct {
+    const char* text;
+    std::optional<int> value;
+  } cases[] = {{"2.5", 3},
+               {"-2.5", -3},
+               {"2.4999", 2},
+               {"0", 0},
+               {"inf", INT_MIN},
+               {"3e9", INT_MIN},
+               {"2147483647.4", INT_MAX},
+               {"-2147483648.4", INT_MIN},
+               {"1,5", 2},
+               {"abc", {}},
+               {"", {}}};
+  for (const auto& c : cases) {
+    int out = 12345;
+    EXPECT_EQ(lx::GetNumberNoMessage(QString::fromLatin1(c.text), &out), !c.value) << c.text;
+    EXPECT_EQ(out, c.value.value_or(12345)) << c.text;
+  }
+}
+
+TEST(Print, TrimsZerosAndSeparator) {
+  const struct {
+    double nanometres;
+    const wchar_t* text;
+  } cases[] = {{1500.0, L"1.5"}, {1000.0, L"1"},   {0.0, L"0"},        {1234567.0, L"1234.567"},
+               {0.0004, L"0"},   {-0.0004, L"-0"}, {100000.0, L"100"}, {-2500.5, L"-2.5005"},
+               {1.0, L"0.001"},  {kInf, L"inf"},   {-kInf, L"-inf"}};
+  for (const auto& c : cases) {
+    wchar_t buffer[64];
+    lx::PrintMicrons(c.nanometres, buffer, 64);
+    EXPECT_EQ(std::wstring(buffer), c.text) << c.nanometres;
+    QString text;
+    lx::PrintMicrons(c.nanometres, &text);
+    EXPECT_EQ(text, QString::fromWCharArray(c.text));
+    QLineEdit edit;
+    lx::PrintDouble(c.nanometres / 1000.0, &edit);
+    EXPECT_EQ(edit.text(), QString::fromWCharArray(c.text));
+  }
+  wchar_t buffer[8];
+  lx::PrintDouble(-0.0, buffer, 8);
+  EXPECT_EQ(std::wstring(buffer), L"-0");
+}
+
+TEST(Print, NeverWritesBeyondTheBuffer) {
+  const struct {
+    double value;
+    int size;
+    const wchar_t* text;  // nullptr: the buffer is untouched
+  } cases[] = {{1234.5, 5, L"1234"}, {100.0, 4, L"1"},  {0.5, 2, L"0"},
+               {7.0, 1, L""},        {7.0, 0, nullptr}, {7.0, -3, nullptr}};
+  for (const auto& c : cases) {
+    wchar_t buffer[16];
+    std::fill(std::begin(buffer), std::end(buffer), L'#');
+    lx::PrintDouble(c.value, buffer, c.size);
+    if (c.text) {
+      EXPECT_EQ(std::wstring(buffer), c.text) << c.value << " in " << c.size;
+    } else {
+      EXPECT_EQ(buffer[0], L'#');
+    }
+    EXPECT_EQ(buffer[std::max(c.size, 0)], L'#') << c.size;
+  }
+  wchar_t number[4] = {L'#', L'#', L'#', L'#'};
+  lx::PrintNumber(12345, number, 3);
+  EXPECT_EQ(std::wstring(number), L"12");
+  lx::PrintDouble(1.0, nullptr, 10);
+  lx::PrintMicrons(1.0, static_cast<QString*>(nullptr));
+  lx::PrintNumber(1, static_cast<QLineEdit*>(nullptr));
+}
+
+TEST(Print, WholeNumbers) {
+  for (const int value : {0, 42, -7, INT_MIN, INT_MAX}) {
+    QString text;
+    lx::PrintNumber(value, &text);
+    EXPECT_EQ(text, QString::number(value));
+    QLineEdit edit;
+    lx::PrintNumber(value, &edit);
+    EXPECT_EQ(edit.text(), QString::number(value));
+  }
+}
+
+class LoudReaders : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    form_.show();
+    lx::SetMainForm(&form_);
+    lx::SetMessageHook([this](const QString& text, int kind, int help) {
+      messages_.push_back(text + QStringLiteral(" |%1|%2").arg(kind).arg(help));
+      return lx::mrOk;
+    });
+  }
+  void TearDown() override {
+    lx::SetMessageHook(nullptr);
+    lx::SetMainForm(nullptr);
+  }
+  QWidget form_;
+  std::vector<QString> messages_;
+};
+
+TEST_F(LoudReaders, QuoteAtMostTwentyCharacters) {
+  double value = kUntouched;
+  int number = 5;
+  EXPECT_TRUE(lx::GetCoordinate(QStringLiteral("12.5mm"), &value));
+  EXPECT_TRUE(lx::GetDouble(QStringLiteral("abcdefghijklmnopqrstuvwxyz"), &value));
+  EXPECT_TRUE(lx::GetNumber(QString(), &number));
+  EXPECT_TRUE(lx::GetCoordinate(QStringLiteral("x\u00e9\U0001F600"), &value));
+  lx::NotAValidNumber(static_cast<const wchar_t*>(nullptr));
+  EXPECT_FALSE(lx::GetCoordinate(QStringLiteral("2"), &value));
+  EXPECT_EQ(value, 2000.0);
+  EXPECT_EQ(number, 5);
+  const std::vector<QString> expected = {
+      QStringLiteral("'12.5mm' is not a valid number |-1|0"),
+      QStringLiteral("'abcdefghijklmnopqrst' is not a valid number |-1|0"),
+      QStringLiteral("'' is not a valid number |-1|0"),
+      QStringLiteral("'x\u00e9\U0001F600' is not a valid number |-1|0"),
+      QStringLiteral("'' is not a valid number |-1|0")};
+  EXPECT_EQ(messages_, expected);
+}
+
+TEST_F(LoudReaders, StaySilentWhileTheMainFormIsHidden) {
+  form_.hide();
+  double value = kUntouched;
+  EXPECT_TRUE(lx::GetDouble(QStringLiteral("x"), &value));
+  EXPECT_TRUE(messages_.empty());
+  EXPECT_EQ(value, kUntouched);
+}
+
+TEST(ReaderCopy, KeepsThirtyCharactersUpToANul) {
+  EXPECT_EQ(lx::ReaderCopy(QString(40, u'7')), QString(30, u'7'));
+  EXPECT_EQ(lx::ReaderCopy(QStringLiteral("12\0ab")), QStringLiteral("12"));
+  EXPECT_EQ(lx::NotAValidNumberText(QString(19, u'a') + QStringLiteral("\U0001F600")),
+            QLatin1Char('\'') + QString(19, u'a') + QStringLiteral("' is not a valid number"));
+}
+
+TEST(BadInput, NeverCrashesAndNeverStores) {
+  std::vector<QString> texts = {QString(1, u'1') + QString(10000, u'x'),
+                                QString(10000, u'x'),
+                                QString(1, QChar(0xD800)),
+                                QStringLiteral("\x01\x02\x7f"),
+                                QString(3, QChar(0xDFFF)) + QStringLiteral("1"),
+                                QStringLiteral("\u4e00\u4e8c")};
+  for (const QString& text : texts) {
+    double value = kUntouched;
+    int number = 5;
+    EXPECT_TRUE(lx::GetCoordinateNoMessage(text, &value) && lx::GetDoubleNoMessage(text, &value) &&
+                lx::GetNumberNoMessage(text, &number))
+        << text.size();
+    EXPECT_EQ(value, kUntouched);
+    EXPECT_EQ(number, 5);
+  }
+  double value = kUntouched;
+  EXPECT_TRUE(lx::GetCoordinateNoMessage(static_cast<const wchar_t*>(nullptr), &value));
+  EXPECT_TRUE(lx::GetDoubleNoMessage(static_cast<const wchar_t*>(nullptr), &value));
+  EXPECT_EQ(value, kUntouched);
+}
+
+TEST(Stepping, OneTwoFiveSeries) {
+  const struct {
+    double from, up, down;
+  } cases[] = {{1, 2, 0.5},   {2, 5, 1},       {5, 10, 2},           {10, 20, 5},
+               {3, 5, 2},     {0.3, 0.5, 0.2}, {99999999, 1e8, 5e7}, {2e8, 1e8, 1e8},
+               {0, 0, 0.001}, {-5, 0, 0.001},  {0.001, 0.005, 0.001}};
+  for (const auto& c : cases) {
+    EXPECT_DOUBLE_EQ(lx::IncreaseValue(c.from), c.up) << c.from;
+    EXPECT_DOUBLE_EQ(lx::DecreaseValue(c.from), c.down) << c.from;
+  }
+}
+
+TEST(Comparisons, CoordinatesEqualAndSimpleValues) {
+  EXPECT_FALSE(lx::CoordinatesEqual(0, 1e-6));
+  EXPECT_TRUE(lx::CoordinatesEqual(0, 0.9e-6));
+  EXPECT_FALSE(lx::CoordinatesEqual(0, std::nan("")));
+  const double whole[] = {1, -2, 1e9, -1e9};
+  const double big[] = {1, 1e9 + 1};
+  const double half[] = {1, 2.5};
+  const double nan[] = {std::nan("")};
+  EXPECT_TRUE(lx::SimpleValues(whole, 4));
+  EXPECT_FALSE(lx::SimpleValues(big, 2));
+  EXPECT_FALSE(lx::SimpleValues(half, 2));
+  EXPECT_FALSE(lx::SimpleValues(nan, 1));
+  EXPECT_TRUE(lx::SimpleValues(half, 1));
+  EXPECT_TRUE(lx::SimpleValues(nullptr, 0));
+  EXPECT_TRUE(lx::SimpleValues(half, -1));
+}
+
+}  // namespace
+
+namespace {
+
+// The readers round exactly as the standard library's correctly rounded conversion.
+TEST(GetDouble, RoundsLikeFromChars) {
+  const char* texts[] = {"0.1",
+                         "0.3",
+                         "123456789012345",
+                         "1234567890123456",
+                         "9007199254740993",
+                         "2.2250738585072014e-308",
+                         "1.7976931348623157e308",
+                         "4.9e-324",
+                         "0.000001234",
+                         "1e22",
+                         "1e23",
+                         "12345678.90123e-5",
+                         "-0",
+                         "000000000000000000000000001.5"};
+  for (const char* text : texts) {
+    double expected = 0.0;
+    std::from_chars(text, text + std::strlen(text), expected);
+    double value = 0.0;
+    EXPECT_FALSE(lx::GetDoubleNoMessage(QString::fromLatin1(text), &value)) << text;
+    EXPECT_EQ(value, expected) << text;
+    EXPECT_EQ(std::signbit(value), std::signbit(expected)) << text;
+  }
+}
+
+}  // namespace
