@@ -11,6 +11,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include <functional>
+
 #include "dialogs/LxOwnerDrawMenu.h"
 #include "lxcomp/LxColorPopup.h"
 #include "lxcomp/LxDialogs.h"
@@ -29,6 +31,7 @@ constexpr int kHollowImage = 7;
 constexpr int kExampleSize = 77;
 constexpr int kMaxStreamNumber = 65535;
 const QSize kStyleImageSize(48, 20);
+constexpr int kMenuItemPadding = 3;  // beside the image, so the menu frame never covers it
 
 // Light images are drawn in black, dark ones in a light grey.
 QColor StyleInk(bool dark) {
@@ -486,12 +489,12 @@ void TDlgLayerSettings::LineStyleClick(QAction* item) {
 }
 
 void TDlgLayerSettings::FillMeasureItem(QAction*, int& width, int& height) {
-  width = kStyleImageSize.width();
+  width = kStyleImageSize.width() + 2 * kMenuItemPadding;
   height = kStyleImageSize.height() + 3;
 }
 
 void TDlgLayerSettings::LineMeasureItem(QAction*, int& width, int& height) {
-  width = kStyleImageSize.width();
+  width = kStyleImageSize.width() + 2 * kMenuItemPadding;
   height = kStyleImageSize.height() + 3;
 }
 
@@ -522,21 +525,31 @@ void TDlgLayerSettings::LineDrawItem(QAction* item, QPainter* canvas, const QRec
 QImage TDlgLayerSettings::ExampleImage() const {
   const bool black = settings_ && settings_->IsBlackBackground;
   const QColor ground = ui_->PanelExample->palette().color(QPalette::Window);
+  const QBrush brush(ToQColor(ColorToRGB(ui_->PBC1->GetColor())), BrushOfFillImage(fillImage_));
+  const QPen pen(ToQColor(ColorToRGB(ui_->PBC2->GetColor())), 1, PenOfLineImage(lineImage_));
   QImage bitmap(kExampleSize, kExampleSize, QImage::Format_RGB32);
   bitmap.fill(ground);
   QPainter painter(&bitmap);
-  const QColor fill = ToQColor(ColorToRGB(ui_->PBC1->GetColor()));
-  const QColor line = ToQColor(ColorToRGB(ui_->PBC2->GetColor()));
-  painter.setBrush(QBrush(fill, BrushOfFillImage(fillImage_)));
-  painter.setPen(QPen(line, 1, PenOfLineImage(lineImage_)));
-  // Gaps of hatches and dashes take the ground colour, which the raster operation leaves as is.
-  painter.setBackgroundMode(Qt::OpaqueMode);
-  painter.setBackground(ground);
-  // Overlaps combine as in the layout view: additively on black, multiplicatively on white.
+  // Overlaps combine as in the layout view: additively on black (merge pen), multiplicatively
+  // on white (mask pen).
   painter.setCompositionMode(black ? QPainter::RasterOp_SourceOrDestination
                                    : QPainter::RasterOp_SourceAndDestination);
-  painter.drawRect(QRect(10, 10, 39, 39));     // (10, 10) to (50, 50), far edges excluded
-  painter.drawEllipse(QRect(22, 22, 49, 49));  // in the box (22, 22) to (72, 72)
+  // Each shape is drawn opaque on the ground colour first, so that the gaps of its hatch and
+  // dashes carry the ground colour, which the raster operation leaves as it is.
+  auto combine = [&](const std::function<void(QPainter&)>& draw) {
+    QImage shape(kExampleSize, kExampleSize, QImage::Format_RGB32);
+    shape.fill(ground);
+    QPainter shapePainter(&shape);
+    shapePainter.setBackgroundMode(Qt::OpaqueMode);
+    shapePainter.setBackground(ground);
+    shapePainter.setBrush(brush);
+    shapePainter.setPen(pen);
+    draw(shapePainter);
+    shapePainter.end();
+    painter.drawImage(0, 0, shape);
+  };
+  combine([](QPainter& p) { p.drawRect(QRect(10, 10, 39, 39)); });     // (10, 10) to (50, 50)
+  combine([](QPainter& p) { p.drawEllipse(QRect(22, 22, 49, 49)); });  // box (22, 22)-(72, 72)
   return bitmap;
 }
 

@@ -490,6 +490,27 @@ TEST_F(LayerSettingsTest, ExampleMixesOverlapsLikeTheLayoutView) {
   }
 }
 
+TEST_F(LayerSettingsTest, HatchGapsKeepTheGroundColour) {
+  for (const bool black : {false, true}) {
+    settings_.IsBlackBackground = black;
+    Edited().FillColor = Edited().LineColor = 0x0000ff;
+    Edited().FillStyle = 4;  // cross hatch
+    TDlgLayerSettings dialog(&main_);
+    dialog.DlgInit(&settings_);
+    const QImage example = dialog.ExampleImage();
+    const QColor ground = black ? Qt::black : Qt::white;
+    int groundPixels = 0, redPixels = 0, others = 0;
+    for (int y = 12; y < 20; ++y)
+      for (int x = 12; x < 20; ++x) {
+        const QColor pixel = example.pixelColor(x, y);
+        pixel == ground ? ++groundPixels : pixel == QColor(Qt::red) ? ++redPixels : ++others;
+      }
+    EXPECT_GT(groundPixels, 0) << black;
+    EXPECT_GT(redPixels, 0) << black;
+    EXPECT_EQ(others, 0) << black;
+  }
+}
+
 TEST_F(LayerSettingsTest, MissingRecordOrLayerOnlyCloses) {
   ModalDriver::WhenModal([](QWidget* dlg) { lxtest::Click(dlg, "OkButton"); });
   EXPECT_TRUE(lx::DoLayerSettingsDlg(nullptr));
