@@ -153,10 +153,6 @@ QString WholeText(int value) {
   return QString::fromLatin1(text, r.ptr - text);
 }
 
-int PowerOfTenExponent(double power) {
-  return TruncateToInt(power);
-}
-
 }  // namespace
 
 void PrintMicrons(double nanometres, wchar_t* out, int size) {
@@ -273,9 +269,10 @@ bool CoordinatesEqual(double a, double b) {
 
 double IncreaseValue(double value) {
   if (value >= 1e8) return 1e8;
-  int e = PowerOfTenExponent(std::ceil(std::log10(value)));
+  // log10 of zero or a negative value is not finite: the exponent is then INT_MIN and p is 0.
+  const int e = TruncateToInt(std::ceil(std::log10(value)));
   double p = std::pow(10.0, e);
-  if (std::fabs(value - p) < 1e-4) p = std::pow(10.0, e == INT_MAX ? e : e + 1);
+  if (std::fabs(value - p) < 1e-4) p = std::pow(10.0, e + 1);
   const double w = value + 0.001;
   if (0.2 * p > w) return 0.2 * p;
   if (0.5 * p > w) return 0.5 * p;
@@ -283,7 +280,7 @@ double IncreaseValue(double value) {
 }
 
 double DecreaseValue(double value) {
-  int e = PowerOfTenExponent(std::floor(std::log10(value)));
+  const int e = TruncateToInt(std::floor(std::log10(value)));
   double p = std::pow(10.0, e);
   // At the bottom of the int range (log10 of zero) the exponent stays put.
   if (std::fabs(value - p) < 1e-4) p = std::pow(10.0, e == INT_MIN ? e : e - 1);

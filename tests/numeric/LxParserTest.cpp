@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
 #include <optional>
 
 #include "lxcomp/LxParser.h"
@@ -123,6 +124,22 @@ TEST(EvaluateExpression, BadTextFailsCleanly) {
   for (const QString& text : texts)
     ExpectEvaluates(text, std::nullopt);
   ExpectEvaluates(QStringLiteral("1+2\0+x"), 3.0);  // the text ends at a NUL
+}
+
+// Random texts from the scanner's own alphabet: every one either evaluates or fails with 0.
+TEST(EvaluateExpression, RandomTextsFailWithZero) {
+  const QString alphabet = QStringLiteral("0123456789.E+-*/^()<>=! tpiesqrtabcoln,\t\u00e9");
+  std::uint32_t seed = 12345;
+  const auto next = [&seed] { return (seed = seed * 1664525u + 1013904223u) >> 8; };
+  for (int round = 0; round < 3000; ++round) {
+    QString text;
+    for (std::uint32_t n = next() % 40; n > 0; --n)
+      text += alphabet[static_cast<qsizetype>(next() % alphabet.size())];
+    double result = -1.0;
+    if (lx::EvaluateExpression(text, 2.0, &result)) {
+      EXPECT_EQ(result, 0.0) << text.toStdString();
+    }
+  }
 }
 
 TEST(TLxParser, WithoutVariableTIsUnknownForGood) {
