@@ -10,6 +10,7 @@
 #include <QSet>
 #include <QString>
 
+#include <initializer_list>
 #include <memory>
 
 #include "lxcomp/LxPlatform.h"

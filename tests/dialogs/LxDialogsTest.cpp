@@ -6,10 +6,10 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDialogs.h"
 #include "lxcomp/LxDlgError.h"
 #include "lxcomp/LxDlgInput.h"
-#include "support/ModalDriver.h"
 
 namespace {
 
@@ -17,18 +17,13 @@ using lxtest::Click;
 using lxtest::Find;
 using lxtest::ModalDriver;
 
-class Boxes : public ::testing::Test {
+// The boxes themselves are shown: no hook.
+class Boxes : public lxtest::DialogTest {
  protected:
   void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-  }
-  void TearDown() override {
-    EXPECT_FALSE(ModalDriver::TakeFailure());
+    DialogTest::SetUp();
     lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
   }
-  QWidget main_;
 };
 
 // The visible buttons of a box, left to right.
@@ -84,6 +79,9 @@ TEST_F(Boxes, ButtonsCloseUpToTheRightWithoutHelp) {
   EXPECT_EQ(without.NoButton()->x(), withHelp.CancelButton()->x());
   EXPECT_EQ(without.YesButton()->x(), withHelp.NoButton()->x());
   EXPECT_FALSE(without.HelpButton()->isEnabled());
+  const QStringList texts{withHelp.YesButton()->text(), withHelp.NoButton()->text(),
+                          withHelp.OkButton()->text(), withHelp.CancelButton()->text()};
+  EXPECT_EQ(texts, QStringList({"Yes", "No", "Ok", "Cancel"}));
   EXPECT_EQ(withHelp.GetHelpContext(), 1234);
 }
 
@@ -111,19 +109,6 @@ TEST_F(Boxes, LongTextGrowsTheBoxThatThenKeepsItsHeight) {
   const QRect text = longBox.Content()->geometry();
   EXPECT_LE(longBox.Content()->mapTo(&longBox, QPoint(0, text.height())).y(),
             longBox.BottomPanel()->y());
-}
-
-TEST_F(Boxes, ErrorGoesThroughTheMainFormRuleThenTheHook) {
-  int calls = 0;
-  lx::SetMessageHook([&](const QString&, int kind, int help) {
-    EXPECT_EQ(kind, -1);
-    EXPECT_EQ(help, 77);
-    return ++calls;
-  });
-  lx::ShowK6Error(L"gone", 77);
-  main_.hide();
-  lx::ShowK6Error(L"gone", 77);
-  EXPECT_EQ(calls, 1);
 }
 
 TEST_F(Boxes, InputReturnsTheTextOnlyOnOk) {

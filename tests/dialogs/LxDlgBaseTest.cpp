@@ -9,39 +9,13 @@
 
 #include <vector>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgBase.h"
 #include "lxcomp/LxLayer.h"
-#include "support/ModalDriver.h"
 
 namespace {
 
-using lxtest::ModalDriver;
-
-struct Message {
-  QString text;
-  int kind;
-  int help;
-};
-
-// A visible main form and a hook that records every message instead of showing it.
-class DlgBase : public ::testing::Test {
- protected:
-  void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& t, int k, int h) {
-      messages_.push_back({t, k, h});
-      return lx::mrOk;
-    });
-  }
-  void TearDown() override {
-    lx::SetMessageHook(nullptr);
-    lx::SetHelpHandler(nullptr);
-    lx::SetMainForm(nullptr);
-  }
-  QWidget main_;
-  std::vector<Message> messages_;
-};
+using DlgBase = lxtest::DialogTest;
 
 // Layers numbered as given, linked in order; empty names unless named.
 struct LayerList {
@@ -54,22 +28,6 @@ struct LayerList {
   const lx::TK5Layer* Head() const { return layers.empty() ? nullptr : &layers[0]; }
   std::vector<lx::TK5Layer> layers;
 };
-
-TEST_F(DlgBase, ButtonRowClosesUpToTheRight) {
-  lx::TLxDlgBase dlg;
-  dlg.show();
-  EXPECT_EQ(dlg.OkButton()->text(), "Ok");
-  EXPECT_EQ(dlg.CancelButton()->text(), "Cancel");
-  EXPECT_EQ(dlg.HelpButton()->text(), "Help");
-  EXPECT_TRUE(dlg.OkButton()->isDefault());
-  EXPECT_LT(dlg.OkButton()->x(), dlg.CancelButton()->x());
-  const int helpX = dlg.HelpButton()->x(), cancelX = dlg.CancelButton()->x();
-  dlg.HelpButton()->hide();
-  dlg.layout()->activate();
-  dlg.BottomPanel()->layout()->activate();
-  EXPECT_EQ(dlg.CancelButton()->x(), helpX);
-  EXPECT_EQ(dlg.OkButton()->x(), cancelX);
-}
 
 TEST_F(DlgBase, LeavingAFieldReplacesAnExpressionByItsValue) {
   lx::TLxDlgBase dlg;
@@ -191,6 +149,7 @@ TEST_F(DlgBase, LightTextFlagFollowsTheButtonText) {
 TEST_F(DlgBase, HelpGoesToTheHandlerOrSaysThereIsNone) {
   std::vector<int> topics;
   lx::TLxDlgBase dlg;
+  EXPECT_EQ(dlg.HelpButton()->text(), "Help");
   dlg.SetHelpContext(4040);
   dlg.HelpButtonClick();
   EXPECT_EQ(messages_.back().text, "No Help available");
@@ -203,19 +162,6 @@ TEST_F(DlgBase, HelpGoesToTheHandlerOrSaysThereIsNone) {
   dlg.HelpButtonClick();
   ASSERT_EQ(messages_.size(), 1u);
   EXPECT_EQ(messages_[0].text, "No Help available");
-}
-
-TEST_F(DlgBase, EscapeAndTheCloseBoxCancel) {
-  for (int way = 0; way < 3; ++way) {
-    lx::TLxDlgBase dlg(&main_);
-    ModalDriver::WhenModal([way](QWidget* d) {
-      if (way == 0) QTest::keyClick(d, Qt::Key_Escape);
-      if (way == 1) d->close();
-      if (way == 2) lxtest::Click(d, "OkButton");
-    });
-    EXPECT_EQ(dlg.exec(), way == 2 ? lx::mrOk : lx::mrCancel);
-    EXPECT_FALSE(ModalDriver::TakeFailure());
-  }
 }
 
 TEST_F(DlgBase, FormDestroyDeletesTheOwnedObject) {

@@ -2,8 +2,8 @@
 
 #include <QLineEdit>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgBox.h"
-#include "support/ModalDriver.h"
 
 namespace {
 
@@ -12,25 +12,7 @@ using lxtest::Find;
 using lxtest::ModalDriver;
 using lxtest::TypeInto;
 
-class BoxDialog : public ::testing::Test {
- protected:
-  void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& text, int, int help) {
-      messages_ << text;
-      EXPECT_EQ(help, 4015);
-      return lx::mrOk;
-    });
-  }
-  void TearDown() override {
-    EXPECT_FALSE(ModalDriver::TakeFailure());
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
-  }
-  QWidget main_;
-  QStringList messages_;
-};
+using BoxDialog = lxtest::DialogTest;
 
 TEST_F(BoxDialog, AngleIsAPlainNumber) {
   lx::BoxSettings record{85000, 10000, 16000, 6000, 30, 2, nullptr};
@@ -62,7 +44,7 @@ TEST_F(BoxDialog, InfiniteAngleIsReadButAnInfiniteLengthIsNot) {
     Click(dlg, "OkButton");
   }});
   EXPECT_TRUE(lx::DoBoxDlg(&record));
-  EXPECT_EQ(messages_, QStringList{"'INF' is not a valid number"});
+  EXPECT_EQ(Errors(4015), QStringList{"'INF' is not a valid number"});
   EXPECT_TRUE(std::isinf(record.Angle) && record.Angle < 0);
   EXPECT_DOUBLE_EQ(record.Width, 2000.0);
 }

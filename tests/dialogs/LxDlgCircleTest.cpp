@@ -7,8 +7,8 @@
 #include <cstring>
 #include <vector>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgCircle.h"
-#include "support/ModalDriver.h"
 
 namespace {
 
@@ -17,35 +17,20 @@ using lxtest::Find;
 using lxtest::ModalDriver;
 using lxtest::TypeInto;
 
-class CircleDialog : public ::testing::Test {
+class CircleDialog : public lxtest::DialogTest {
  protected:
   void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& text, int kind, int help) {
-      messages_.push_back(text);
-      EXPECT_EQ(kind, -1);
-      EXPECT_EQ(help, 4040);
-      return lx::mrOk;
-    });
+    DialogTest::SetUp();
     for (int n : {10, 20, 30})
       layers_.emplace_back(n, n, 0, QStringLiteral("L%1").arg(n), -1);
     layers_[0].Next = &layers_[1];
     layers_[1].Next = &layers_[2];
   }
-  void TearDown() override {
-    EXPECT_FALSE(ModalDriver::TakeFailure());
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
-  }
   lx::CircleSettings Record() { return {1500, -2000, 5000, 20, &layers_[0]}; }
   static bool Same(const lx::CircleSettings& a, const lx::CircleSettings& b) {
     return std::memcmp(&a, &b, sizeof a) == 0;
   }
-
-  QWidget main_;
   std::vector<lx::TK5Layer> layers_;
-  QStringList messages_;
 };
 
 TEST_F(CircleDialog, ShowsTheRecordAndWritesWhatWasTyped) {
@@ -69,7 +54,7 @@ TEST_F(CircleDialog, ShowsTheRecordAndWritesWhatWasTyped) {
   EXPECT_DOUBLE_EQ(record.Y, -2000.0);
   EXPECT_DOUBLE_EQ(record.Radius, 1500.0);
   EXPECT_EQ(record.Layer, 30);
-  EXPECT_TRUE(messages_.isEmpty());
+  EXPECT_TRUE(messages_.empty());
 }
 
 TEST_F(CircleDialog, AnExpressionConfirmedWithEnterIsReadAsItsValue) {
@@ -109,7 +94,7 @@ TEST_F(CircleDialog, UnreadableFieldIsReportedAndNothingIsWritten) {
       Click(dlg, "CancelButton");
     });
     EXPECT_FALSE(lx::DoCircleDlg(&record));
-    EXPECT_EQ(messages_, QStringList{c.message}) << c.field;
+    EXPECT_EQ(Errors(4040), QStringList{c.message}) << c.field;
     EXPECT_TRUE(Same(record, before)) << c.field;
   }
 }
@@ -154,7 +139,7 @@ TEST_F(CircleDialog, NullRecordJustCloses) {
     Click(dlg, "OkButton");
   });
   EXPECT_TRUE(lx::DoCircleDlg(nullptr));
-  EXPECT_TRUE(messages_.isEmpty());
+  EXPECT_TRUE(messages_.empty());
 }
 
 TEST_F(CircleDialog, AnyTextInAnyFieldIsReadOrRefused) {
@@ -180,7 +165,7 @@ TEST_F(CircleDialog, AnyTextInAnyFieldIsReadOrRefused) {
       if (dlg->isVisible()) Click(dlg, "CancelButton");
     });
     const bool written = lx::DoCircleDlg(&record);
-    EXPECT_EQ(written, messages_.isEmpty());
+    EXPECT_EQ(written, Errors(4040).isEmpty());
     if (!written) {
       EXPECT_TRUE(Same(record, before));
     }

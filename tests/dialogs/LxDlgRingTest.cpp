@@ -3,8 +3,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include "dialogs/DialogFixture.h"
 #include "lxcomp/LxDlgRing.h"
-#include "support/ModalDriver.h"
 
 namespace {
 
@@ -13,25 +13,9 @@ using lxtest::Find;
 using lxtest::ModalDriver;
 using lxtest::TypeInto;
 
-class RingDialog : public ::testing::Test {
+class RingDialog : public lxtest::DialogTest {
  protected:
-  void SetUp() override {
-    main_.show();
-    lx::SetMainForm(&main_);
-    lx::SetMessageHook([this](const QString& text, int, int help) {
-      messages_ << text;
-      EXPECT_EQ(help, 4055);
-      return lx::mrOk;
-    });
-  }
-  void TearDown() override {
-    EXPECT_FALSE(ModalDriver::TakeFailure());
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
-  }
-  QWidget main_;
   lx::TK5Layer layer_{4, 4, 0, "Via"};
-  QStringList messages_;
 };
 
 TEST_F(RingDialog, SegmentsAreRoundedAndNoRangeIsChecked) {
@@ -63,7 +47,7 @@ TEST_F(RingDialog, BadWidthStopsBeforeAnythingIsStored) {
     QTest::keyClick(dlg, Qt::Key_Escape);
   });
   EXPECT_FALSE(lx::DoRingDlg(&record));
-  EXPECT_EQ(messages_, QStringList{"'abc' is not a valid number"});
+  EXPECT_EQ(Errors(4055), QStringList{"'abc' is not a valid number"});
   EXPECT_DOUBLE_EQ(record.X, 1000.0);
   EXPECT_DOUBLE_EQ(record.Radius, 9000.0);
   EXPECT_EQ(record.Segments, 32);
