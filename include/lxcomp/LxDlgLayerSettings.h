@@ -9,7 +9,6 @@
 #include "lxcomp/LxDlgBase.h"
 #include "lxcomp/LxLayer.h"
 
-class QAction;
 class QMenu;
 class QPainter;
 
@@ -75,13 +74,14 @@ class TDlgLayerSettings : public TLxDlgBase {
   void ShowColorDialog1Click(QObject* sender = nullptr);
   void ShowColorDialog2Click(QObject* sender = nullptr);
   void FillStyleButtonClick(QObject* sender = nullptr);
-  void FillClick(QAction* item);
-  void FillDrawItem(QAction* item, QPainter* canvas, const QRect& rect, bool selected);
-  void FillMeasureItem(QAction* item, int& width, int& height);
+  // Menu item handlers: `sender` is the item (a QAction); measuring has no canvas.
+  void FillClick(QObject* sender = nullptr);
+  void FillDrawItem(QObject* sender, QPainter* canvas, const QRect& rect, bool selected);
+  void FillMeasureItem(QObject* sender, QPainter* canvas, int& width, int& height);
   void LineStyleButtonClick(QObject* sender = nullptr);
-  void LineStyleClick(QAction* item);
-  void LineDrawItem(QAction* item, QPainter* canvas, const QRect& rect, bool selected);
-  void LineMeasureItem(QAction* item, int& width, int& height);
+  void LineStyleClick(QObject* sender = nullptr);
+  void LineDrawItem(QObject* sender, QPainter* canvas, const QRect& rect, bool selected);
+  void LineMeasureItem(QObject* sender, QPainter* canvas, int& width, int& height);
   // Leaving a page is allowed only when its checks pass.
   void PageControl1Changing(QObject* sender, bool& allowChange);
 

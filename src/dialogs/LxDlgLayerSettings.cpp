@@ -179,7 +179,7 @@ TDlgLayerSettings::~TDlgLayerSettings() {
 void TDlgLayerSettings::BuildStyleMenus() {
   const bool dark = GetLightText();
   popupFillStyles_ = new TLxOwnerDrawMenu(
-      this, [this](QAction* item, int& w, int& h) { FillMeasureItem(item, w, h); },
+      this, [this](QAction* item, int& w, int& h) { FillMeasureItem(item, nullptr, w, h); },
       [this](QAction* item, QPainter* canvas, const QRect& rect, bool selected) {
         FillDrawItem(item, canvas, rect, selected);
       });
@@ -189,10 +189,10 @@ void TDlgLayerSettings::BuildStyleMenus() {
     item->setObjectName(QStringLiteral("FillItem%1").arg(i));
     item->setData(i + (dark ? kFillImages : 0));
   }
-  connect(popupFillStyles_, &QMenu::triggered, this, &TDlgLayerSettings::FillClick);
+  connect(popupFillStyles_, &QMenu::triggered, this, [this](QAction* item) { FillClick(item); });
 
   popupLineStyles_ = new TLxOwnerDrawMenu(
-      this, [this](QAction* item, int& w, int& h) { LineMeasureItem(item, w, h); },
+      this, [this](QAction* item, int& w, int& h) { LineMeasureItem(item, nullptr, w, h); },
       [this](QAction* item, QPainter* canvas, const QRect& rect, bool selected) {
         LineDrawItem(item, canvas, rect, selected);
       });
@@ -203,7 +203,8 @@ void TDlgLayerSettings::BuildStyleMenus() {
     item->setObjectName(QStringLiteral("LineItem%1").arg(i));
     item->setData(i + (dark ? kLineImages : 0));
   }
-  connect(popupLineStyles_, &QMenu::triggered, this, &TDlgLayerSettings::LineStyleClick);
+  connect(popupLineStyles_, &QMenu::triggered, this,
+          [this](QAction* item) { LineStyleClick(item); });
 }
 
 void TDlgLayerSettings::BuildColorMenus() {
@@ -480,26 +481,27 @@ void TDlgLayerSettings::LineStyleButtonClick(QObject*) {
   popupLineStyles_->popup(button->mapToGlobal(QPoint(0, button->height())));
 }
 
-void TDlgLayerSettings::FillClick(QAction* item) {
-  if (item) SetFillImage(item->data().toInt());
+void TDlgLayerSettings::FillClick(QObject* sender) {
+  if (auto* item = qobject_cast<QAction*>(sender)) SetFillImage(item->data().toInt());
 }
 
-void TDlgLayerSettings::LineStyleClick(QAction* item) {
-  if (item) SetLineImage(item->data().toInt());
+void TDlgLayerSettings::LineStyleClick(QObject* sender) {
+  if (auto* item = qobject_cast<QAction*>(sender)) SetLineImage(item->data().toInt());
 }
 
-void TDlgLayerSettings::FillMeasureItem(QAction*, int& width, int& height) {
+void TDlgLayerSettings::FillMeasureItem(QObject*, QPainter*, int& width, int& height) {
   width = kStyleImageSize.width() + 2 * kMenuItemPadding;
   height = kStyleImageSize.height() + 3;
 }
 
-void TDlgLayerSettings::LineMeasureItem(QAction*, int& width, int& height) {
+void TDlgLayerSettings::LineMeasureItem(QObject*, QPainter*, int& width, int& height) {
   width = kStyleImageSize.width() + 2 * kMenuItemPadding;
   height = kStyleImageSize.height() + 3;
 }
 
-void TDlgLayerSettings::FillDrawItem(QAction* item, QPainter* canvas, const QRect& rect,
+void TDlgLayerSettings::FillDrawItem(QObject* sender, QPainter* canvas, const QRect& rect,
                                      bool selected) {
+  auto* item = qobject_cast<QAction*>(sender);
   if (!item || !canvas) return;
   if (selected) canvas->fillRect(rect, palette().color(QPalette::Highlight));
   const int image = item->data().toInt();
@@ -509,8 +511,9 @@ void TDlgLayerSettings::FillDrawItem(QAction* item, QPainter* canvas, const QRec
                      FillImage(image, canvas->device()->devicePixelRatioF()));
 }
 
-void TDlgLayerSettings::LineDrawItem(QAction* item, QPainter* canvas, const QRect& rect,
+void TDlgLayerSettings::LineDrawItem(QObject* sender, QPainter* canvas, const QRect& rect,
                                      bool selected) {
+  auto* item = qobject_cast<QAction*>(sender);
   if (!item || !canvas) return;
   if (selected) canvas->fillRect(rect, palette().color(QPalette::Highlight));
   const QPixmap image = LineImage(item->data().toInt(), canvas->device()->devicePixelRatioF());
