@@ -1,6 +1,7 @@
 // Layers in the demo: a side panel that lists the sample layout's layers and opens the layer
 // settings of the one chosen, commands that pick a layer and a colour, and gallery pictures of
 // the layer dialogs, the colour popup and the style menus.
+#include <QEnterEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -83,6 +84,10 @@ class LayersPanel : public QWidget {
     connect(edit, &QPushButton::clicked, this, [this] { EditCurrent(); });
     Refill();
   }
+
+ protected:
+  // Layers may have been changed through the menu meanwhile.
+  void enterEvent(QEnterEvent*) override { Refill(); }
 
  private:
   void Refill() {
