@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "SampleLayout.h"
+#include "lxcomp/LxPlatform.h"
 
 LayoutCanvas::LayoutCanvas(SampleLayout& layout, QWidget* parent)
     : QWidget(parent), layout_(layout) {
@@ -57,14 +58,34 @@ void LayoutCanvas::paintEvent(QPaintEvent*) {
   DrawObjects(painter);
 }
 
+namespace {
+
+// A layer's fill pattern and outline style as the layout view draws them.
+Qt::BrushStyle BrushOfFillStyle(int fillStyle) {
+  static constexpr Qt::BrushStyle patterns[] = {
+      Qt::HorPattern,   Qt::VerPattern,       Qt::FDiagPattern, Qt::BDiagPattern,
+      Qt::CrossPattern, Qt::DiagCrossPattern, Qt::NoBrush};
+  return fillStyle >= 0 && fillStyle < 7 ? patterns[fillStyle] : Qt::SolidPattern;
+}
+
+Qt::PenStyle PenOfLineStyle(int lineStyle) {
+  static constexpr Qt::PenStyle pens[] = {Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine,
+                                          Qt::DashDotDotLine};
+  return lineStyle >= 0 && lineStyle < 5 ? pens[lineStyle] : Qt::SolidLine;
+}
+
+}  // namespace
+
 void LayoutCanvas::DrawObjects(QPainter& painter) const {
   for (const auto& o : layout_.Objects()) {
     const auto* layer = layout_.Layer(o.layer);
-    const QColor color = layer ? layer->color : QColor(Qt::gray);
-    QColor fill = color;
-    fill.setAlpha(90);
-    painter.setPen(QPen(color, 1.5));
-    painter.setBrush(fill);
+    const lx::TK5Layer* record = layout_.LayerRecord(o.layer);
+    const QColor color =
+        record ? lx::ToQColor(record->LineColor) : (layer ? layer->color : QColor(Qt::gray));
+    QColor fill = record ? lx::ToQColor(record->FillColor) : color;
+    fill.setAlpha(record && record->FillStyle >= 0 ? 255 : 90);
+    painter.setPen(QPen(color, 1.5, record ? PenOfLineStyle(record->LineStyle) : Qt::SolidLine));
+    painter.setBrush(QBrush(fill, record ? BrushOfFillStyle(record->FillStyle) : Qt::SolidPattern));
     QPolygonF poly;
     for (const auto& n : o.nodes)
       poly << ToWidget(n);

@@ -39,6 +39,15 @@ class SampleLayout {
   const lx::TK5Layer* LayerList() const {
     return layerRecords_.empty() ? nullptr : layerRecords_.front().get();
   }
+  lx::TK5Layer* LayerList() {
+    return layerRecords_.empty() ? nullptr : layerRecords_.front().get();
+  }
+  // The layer record numbered `number`, or null.
+  const lx::TK5Layer* LayerRecord(int number) const {
+    for (const lx::TK5Layer* layer = LayerList(); layer; layer = layer->Next)
+      if (layer->Number == number) return layer;
+    return nullptr;
+  }
   // The topmost object under a point (nanometres), or -1.
   int ObjectAt(QPointF point, double tolerance) const;
 
