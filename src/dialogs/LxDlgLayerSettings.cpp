@@ -168,13 +168,7 @@ TDlgLayerSettings::TDlgLayerSettings(QWidget* owner)
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-TDlgLayerSettings::~TDlgLayerSettings() {
-  // The base form forgets its watched fields and tabs when they are destroyed; they outlive
-  // its bookkeeping, so it stops listening first.
-  for (QObject* watched : std::initializer_list<QObject*>{ui_->EditIndex, ui_->EditDatatype,
-                                                          ui_->PageControl1->tabBar()})
-    disconnect(watched, &QObject::destroyed, this, nullptr);
-}
+TDlgLayerSettings::~TDlgLayerSettings() = default;
 
 void TDlgLayerSettings::BuildStyleMenus() {
   const bool dark = GetLightText();
