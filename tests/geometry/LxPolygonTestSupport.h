@@ -1,6 +1,6 @@
 // The plain quadratic self-intersection test, written straight from the rules (every pair of
 // non-adjacent edges, then every edge for every sweep line), as the reference the fast test must
-// match; and generators of random polygons for the agreement corpus and the benchmarks.
+// match; and random polygons for the agreement corpus and the benchmarks.
 #pragma once
 
 #include "geometry/SelfIntersection.h"
@@ -10,6 +10,7 @@
 #include <cmath>
 #include <random>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace lxtest {
@@ -19,7 +20,7 @@ inline lx::SelfIntersection ReferenceSelfIntersection(const double* nodes, unsig
   if (count < 4) return SelfIntersection::None;
   auto x = [&](unsigned k) { return nodes[2 * k]; };
   auto y = [&](unsigned k) { return nodes[2 * k + 1]; };
-  std::set<double> events;
+  std::set<double> events;  // heights where edges start, end or cross
   auto addEvent = [&](double v) {
     if (!std::isnan(v)) events.insert(v);
   };
@@ -28,42 +29,34 @@ inline lx::SelfIntersection ReferenceSelfIntersection(const double* nodes, unsig
   for (unsigned i = 0; i + 3 <= count; ++i) {
     const unsigned ip = i == 0 ? count - 1 : i - 1;
     for (unsigned j = i + 2; j < count; ++j) {
-      if (i == 0 && j == count - 1) continue;
       const unsigned jp = j - 1;
       double px, py;
-      if (!lx::Intersect(x(i), y(i), x(ip), y(ip), x(j), y(j), x(jp), y(jp), px, py)) continue;
+      if ((i == 0 && j == count - 1) ||
+          !lx::Intersect(x(i), y(i), x(ip), y(ip), x(j), y(j), x(jp), y(jp), px, py))
+        continue;
       addEvent(py);
-      const double dxo = x(ip) - x(i), dyo = y(ip) - y(i);
-      const double dxi = x(jp) - x(j), dyi = y(jp) - y(j);
+      const double dxo = x(ip) - x(i), dyo = y(ip) - y(i), dxi = x(jp) - x(j), dyi = y(jp) - y(j);
+      auto meet = [&](unsigned a, unsigned b) { return x(a) == x(b) && y(a) == y(b); };
+      bool allowed;
       if (dxo == 0 && dxi == 0) {
-        if (dyo * dyi <= 0 || y(i) == y(jp) || y(ip) == y(j)) continue;
-        return SelfIntersection::ForbiddenContact;
+        allowed = dyo * dyi <= 0 || y(i) == y(jp) || y(ip) == y(j);
+      } else if (dyo == 0 && dyi == 0) {
+        allowed = dxo * dxi <= 0 || x(i) == x(jp) || x(ip) == x(j);
+      } else if (lx::SameAngleRadians(std::atan2(dyo, dxo), std::atan2(dyi, dxi))) {
+        allowed = meet(ip, j) || meet(i, jp);
+      } else {
+        auto atNode = [&](unsigned k) { return px == x(k) && py == y(k); };
+        allowed = lx::SameAngleRadians(std::atan2(dyo, dxo) + M_PI, std::atan2(dyi, dxi)) ||
+                  atNode(i) || atNode(ip) || atNode(j) || atNode(jp);
       }
-      if (dyo == 0 && dyi == 0) {
-        if (dxo * dxi <= 0 || x(i) == x(jp) || x(ip) == x(j)) continue;
-        return SelfIntersection::ForbiddenContact;
-      }
-      const double ao = std::atan2(dyo, dxo), ai = std::atan2(dyi, dxi);
-      if (lx::SameAngleRadians(ao, ai)) {
-        if ((x(ip) == x(j) && y(ip) == y(j)) || (x(i) == x(jp) && y(i) == y(jp))) continue;
-        return SelfIntersection::ForbiddenContact;
-      }
-      if (lx::SameAngleRadians(ao + M_PI, ai)) continue;
-      for (unsigned node : {i, ip, j, jp})
-        if (px == x(node) && py == y(node)) goto allowed;
-      return SelfIntersection::ForbiddenContact;
-    allowed:;
+      if (!allowed) return SelfIntersection::ForbiddenContact;
     }
   }
-  struct Crossing {
-    double x;
-    bool up;
-  };
-  std::vector<Crossing> crossings;
-  auto before = [](const Crossing& a, const Crossing& b) {
-    if (std::isnan(a.x) != std::isnan(b.x)) return std::isnan(b.x);
-    if (!std::isnan(a.x) && a.x != b.x) return a.x < b.x;
-    return !a.up && b.up;
+  std::vector<std::pair<double, bool>> crossings;  // x, upwards
+  auto before = [](const auto& a, const auto& b) {
+    if (std::isnan(a.first) != std::isnan(b.first)) return std::isnan(b.first);
+    if (!std::isnan(a.first) && a.first != b.first) return a.first < b.first;
+    return !a.second && b.second;
   };
   for (auto a = events.begin(), b = std::next(a); a != events.end() && b != events.end();
        ++a, ++b) {
@@ -72,16 +65,16 @@ inline lx::SelfIntersection ReferenceSelfIntersection(const double* nodes, unsig
     for (unsigned k = 1; k <= count; ++k) {
       const unsigned from = k - 1, to = k % count;
       const bool up = y(from) < line && line < y(to);
-      if (!up && !(y(from) > line && line > y(to))) continue;
-      crossings.push_back({(x(to) - x(from)) * (line - y(from)) / (y(to) - y(from)) + x(from), up});
+      if (up || (y(from) > line && line > y(to)))
+        crossings.push_back(
+            {(x(to) - x(from)) * (line - y(from)) / (y(to) - y(from)) + x(from), up});
     }
-    if (crossings.empty()) continue;
     std::sort(crossings.begin(), crossings.end(), before);
-    int w = crossings[0].up ? 1 : -1;
-    for (size_t m = 1; m < crossings.size(); ++m) {
-      if ((w < -1 || w > 1) && crossings[m].x > crossings[m - 1].x)
+    int winding = 0;
+    for (size_t m = 0; m < crossings.size(); ++m) {
+      if (m > 0 && std::abs(winding) > 1 && crossings[m].first > crossings[m - 1].first)
         return SelfIntersection::CoveredTwice;
-      w += crossings[m].up ? 1 : -1;
+      winding += crossings[m].second ? 1 : -1;
     }
   }
   return SelfIntersection::None;
@@ -91,10 +84,7 @@ inline lx::SelfIntersection ReferenceSelfIntersection(const double* nodes, unsig
 using Nodes = std::vector<double>;
 
 inline void Close(Nodes& p) {
-  if (p.size() >= 2) {
-    p.push_back(p[0]);
-    p.push_back(p[1]);
-  }
+  if (p.size() >= 2) p.insert(p.end(), {p[0], p[1]});
 }
 
 // A simple polygon: one node at a random angle in each of `count` equal sectors around the
@@ -104,12 +94,9 @@ template <typename Radius>
 Nodes StarPolygon(std::mt19937& rng, unsigned count, Radius radius) {
   std::uniform_real_distribution<double> within(0.1, 0.9);
   Nodes p;
-  p.reserve(2 * count + 2);
   for (unsigned i = 0; i < count; ++i) {
-    const double a = (i + within(rng)) * 2 * M_PI / count;
-    const double r = radius(a);
-    p.push_back(std::round(r * std::cos(a)));
-    p.push_back(std::round(r * std::sin(a)));
+    const double a = (i + within(rng)) * 2 * M_PI / count, r = radius(a);
+    p.insert(p.end(), {std::round(r * std::cos(a)), std::round(r * std::sin(a))});
   }
   Close(p);
   return p;
@@ -131,10 +118,10 @@ inline Nodes SmoothStar(std::mt19937& rng, unsigned count) {
   });
 }
 
-// A star whose radii are independent: every edge is a long spike.
-inline Nodes SpikyStar(std::mt19937& rng, unsigned count) {
-  std::uniform_real_distribution<double> radius(5e7, 1e8);
-  return StarPolygon(rng, count, [&](double) { return radius(rng); });
+// A star whose radii are independent, between half and all of `radius`: every edge is a spike.
+inline Nodes SpikyStar(std::mt19937& rng, unsigned count, double radius = 1e8) {
+  std::uniform_real_distribution<double> pick(radius / 2, radius);
+  return StarPolygon(rng, count, [&](double) { return pick(rng); });
 }
 
 }  // namespace lxtest
