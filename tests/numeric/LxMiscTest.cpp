@@ -24,98 +24,77 @@ struct ReadCase {
   std::optional<double> value;  // nothing: the text does not read
 };
 
-// Runs one reader form and checks the value, or that a failure left the output alone.
+// Runs the wide-text and the QString form of a reader: the value times `scale`, or on failure
+// the output left alone.
 template <typename Reader>
-void ExpectRead(Reader read, const ReadCase& c, double scale) {
-  double out = kUntouched;
-  const bool failed = read(c.text, &out);
-  EXPECT_EQ(failed, !c.value.has_value()) << QString::fromWCharArray(c.text).toStdString();
-  EXPECT_EQ(out, c.value ? *c.value * scale : kUntouched)
-      << QString::fromWCharArray(c.text).toStdString();
-}
-
-TEST(GetCoordinate, ReadsMicrometresAsNanometres) {
-  const ReadCase cases[] = {
-      {L"12.5", 12.5},
-      {L"12,5", 12.5},
-      {L" 12.5", 12.5},
-      {L"12.5 ", 12.5},
-      {L"12.5 mm", 12.5},
-      {L"12.5\tx", 12.5},
-      {L"12.5\n", 12.5},
-      {L"12.5\r", 12.5},
-      {L"+3", 3.0},
-      {L"-3", -3.0},
-      {L"1e3", 1000.0},
-      {L"1E-3", 0.001},
-      {L"1.", 1.0},
-      {L".5", 0.5},
-      {L",5", 0.5},
-      {L"\t\n 7", 7.0},
-      {L"12.5mm", {}},
-      {L"", {}},
-      {L"abc", {}},
-      {L"1,000.5", {}},
-      {L"inf", {}},
-      {L"-INF", {}},
-      {L"nan", {}},
-      {L"0x10", {}},
-      {L"1.2.3", {}},
-      {L".", {}},
-      {L"-", {}},
-      {L"1e", {}},
-      {L"12.5\v", {}},
-      {L" ,5", {}},
-      {L"1e999", {}},
-      {L"1e306", {}},
-      {L"\u0661\u0662", {}},
-      {L"12\u00a0", {}},
-      {L"1\u20002", {}},
-      {L"e5", {}},
-      {L"1234567890123456789012345678901234", 123456789012345678901234567890.0},
-  };
+void ExpectReads(Reader read, const std::vector<ReadCase>& cases, double scale) {
   for (const ReadCase& c : cases) {
-    ExpectRead([](const wchar_t* t, double* v) { return lx::GetCoordinateNoMessage(t, v); }, c,
-               1000.0);
-    ExpectRead([](const wchar_t* t,
-                  double* v) { return lx::GetCoordinateNoMessage(QString::fromWCharArray(t), v); },
-               c, 1000.0);
+    for (const bool wide : {true, false}) {
+      double out = kUntouched;
+      const bool failed = wide ? read(c.text, &out) : read(QString::fromWCharArray(c.text), &out);
+      const std::string text = QString::fromWCharArray(c.text).toStdString();
+      EXPECT_EQ(failed, !c.value.has_value()) << text;
+      EXPECT_EQ(out, c.value ? *c.value * scale : kUntouched) << text;
+    }
   }
 }
 
+TEST(GetCoordinate, ReadsMicrometresAsNanometres) {
+  std::vector<ReadCase> cases = {
+      {L"12.5", 12.5},    {L"12,5", 12.5},    {L" 12.5", 12.5},  {L"12.5 ", 12.5},
+      {L"12.5 mm", 12.5}, {L"12.5\tx", 12.5}, {L"12.5\n", 12.5}, {L"12.5\r", 12.5},
+      {L"+3", 3.0},       {L"-3", -3.0},      {L"1e3", 1000.0},  {L"1E-3", 0.001},
+      {L"1.", 1.0},       {L".5", 0.5},       {L",5", 0.5},      {L"\t\n 7", 7.0}};
+  cases.push_back({L"1234567890123456789012345678901234", 123456789012345678901234567890.0});
+  for (const wchar_t* bad : {L"12.5mm",       L"",         L"abc",      L"1,000.5",
+                             L"inf",          L"-INF",     L"nan",      L"0x10",
+                             L"1.2.3",        L".",        L"-",        L"1e",
+                             L"12.5\v",       L" ,5",      L"1e999",    L"1e306",
+                             L"\u0661\u0662", L"12\u00a0", L"1\u20002", L"e5"})
+    cases.push_back({bad, {}});
+  ExpectReads([](auto t, double* v) { return lx::GetCoordinateNoMessage(t, v); }, cases, 1000);
+}
+
 TEST(GetDouble, ReadsRealsAndInfinityWords) {
-  const ReadCase cases[] = {
-      {L"2.5", 2.5},    {L"-1e-400", -0.0}, {L"inf", kInf},  {L"-INF", -kInf}, {L"xINFx", kInf},
-      {L" -inf", kInf}, {L"-1,5", -1.5},    {L"Inf", {}},    {L"1e999", {}},   {L"nan", {}},
-      {L"", {}},        {L"0x1p3", {}},     {L"12.5mm", {}}, {L"--1", {}},
-  };
-  for (const ReadCase& c : cases) {
-    ExpectRead([](const wchar_t* t, double* v) { return lx::GetDoubleNoMessage(t, v); }, c, 1.0);
-    ExpectRead([](const wchar_t* t,
-                  double* v) { return lx::GetDoubleNoMessage(QString::fromWCharArray(t), v); },
-               c, 1.0);
+  const ReadCase cases[] = {{L"2.5", 2.5},    {L"-1e-400", -0.0}, {L"inf", kInf},  {L"-INF", -kInf},
+                            {L"xINFx", kInf}, {L" -inf", kInf},   {L"-1,5", -1.5}, {L"Inf", {}},
+                            {L"1e999", {}},   {L"nan", {}},       {L"", {}},       {L"0x1p3", {}},
+                            {L"12.5mm", {}},  {L"--1", {}}};
+  ExpectReads([](auto t, double* v) { return lx::GetDoubleNoMessage(t, v); },
+              {std::begin(cases), std::end(cases)}, 1);
+}
+
+// The readers round exactly as the standard library's correctly rounded conversion.
+TEST(GetDouble, RoundsLikeFromChars) {
+  for (const char* text :
+       {"0.1", "0.3", "123456789012345", "1234567890123456", "9007199254740993",
+        "2.2250738585072014e-308", "1.7976931348623157e308", "4.9e-324", "0.000001234", "1e22",
+        "1e23", "12345678.90123e-5", "-0", "000000000000000000000000001.5"}) {
+    double expected = 0.0, value = 0.0;
+    std::from_chars(text, text + std::strlen(text), expected);
+    EXPECT_FALSE(lx::GetDoubleNoMessage(QString::fromLatin1(text), &value)) << text;
+    EXPECT_EQ(value, expected) << text;
+    EXPECT_EQ(std::signbit(value), std::signbit(expected)) << text;
   }
 }
 
 TEST(GetNumber, RoundsHalfAwayFromZero) {
-  const struct {
-    const char* text;
-    std::optional<int> value;
-  } cases[] = {{"2.5", 3},
-               {"-2.5", -3},
-               {"2.4999", 2},
-               {"0", 0},
-               {"inf", INT_MIN},
-               {"3e9", INT_MIN},
-               {"2147483647.4", INT_MAX},
-               {"-2147483648.4", INT_MIN},
-               {"1,5", 2},
-               {"abc", {}},
-               {"", {}}};
-  for (const auto& c : cases) {
-    int out = 12345;
-    EXPECT_EQ(lx::GetNumberNoMessage(QString::fromLatin1(c.text), &out), !c.value) << c.text;
-    EXPECT_EQ(out, c.value.value_or(12345)) << c.text;
+  constexpr int kKept = 12345;  // the text does not read and the output stays
+  const std::pair<const char*, int> cases[] = {{"2.5", 3},
+                                               {"-2.5", -3},
+                                               {"2.4999", 2},
+                                               {"0", 0},
+                                               {"inf", INT_MIN},
+                                               {"3e9", INT_MIN},
+                                               {"2147483647.4", INT_MAX},
+                                               {"-2147483648.4", INT_MIN},
+                                               {"1,5", 2},
+                                               {"abc", kKept},
+                                               {"", kKept}};
+  for (const auto& [text, want] : cases) {
+    int out = kKept;
+    EXPECT_EQ(lx::GetNumberNoMessage(QString::fromLatin1(text), &out), want == kKept) << text;
+    EXPECT_EQ(out, want) << text;
   }
 }
 
@@ -210,14 +189,11 @@ TEST_F(LoudReaders, QuoteAtMostTwentyCharacters) {
   EXPECT_FALSE(lx::GetCoordinate(QStringLiteral("2"), &value));
   EXPECT_EQ(value, 2000.0);
   EXPECT_EQ(number, 5);
-  const std::vector<QString> expected = {
-      QStringLiteral("'12.5mm' is not a valid number |-1|0"),
-      QStringLiteral("'abcdefghijklmnopqrst' is not a valid number |-1|0"),
-      QStringLiteral("'' is not a valid number |-1|0"),
-      QStringLiteral("'x\u00e9\U0001F600' is not a valid number |-1|0"),
-      QStringLiteral("'1.5x' is not a valid number |-1|0"),
-      QStringLiteral("'1,5x' is not a valid number |-1|0"),
-      QStringLiteral("'' is not a valid number |-1|0")};
+  std::vector<QString> expected;
+  for (const char16_t* quoted :
+       {u"12.5mm", u"abcdefghijklmnopqrst", u"", u"x\u00e9\U0001F600", u"1.5x", u"1,5x", u""})
+    expected.push_back(
+        QStringLiteral("'%1' is not a valid number |-1|0").arg(QString::fromUtf16(quoted)));
   EXPECT_EQ(messages_, expected);
 }
 
@@ -275,47 +251,16 @@ TEST(Comparisons, CoordinatesEqualAndSimpleValues) {
   EXPECT_FALSE(lx::CoordinatesEqual(0, 1e-6));
   EXPECT_TRUE(lx::CoordinatesEqual(0, 0.9e-6));
   EXPECT_FALSE(lx::CoordinatesEqual(0, std::nan("")));
-  const double whole[] = {1, -2, 1e9, -1e9};
-  const double big[] = {1, 1e9 + 1};
-  const double half[] = {1, 2.5};
-  const double nan[] = {std::nan("")};
-  EXPECT_TRUE(lx::SimpleValues(whole, 4));
-  EXPECT_FALSE(lx::SimpleValues(big, 2));
-  EXPECT_FALSE(lx::SimpleValues(half, 2));
-  EXPECT_FALSE(lx::SimpleValues(nan, 1));
-  EXPECT_TRUE(lx::SimpleValues(half, 1));
-  EXPECT_TRUE(lx::SimpleValues(nullptr, 0));
-  EXPECT_TRUE(lx::SimpleValues(half, -1));
-}
-
-}  // namespace
-
-namespace {
-
-// The readers round exactly as the standard library's correctly rounded conversion.
-TEST(GetDouble, RoundsLikeFromChars) {
-  const char* texts[] = {"0.1",
-                         "0.3",
-                         "123456789012345",
-                         "1234567890123456",
-                         "9007199254740993",
-                         "2.2250738585072014e-308",
-                         "1.7976931348623157e308",
-                         "4.9e-324",
-                         "0.000001234",
-                         "1e22",
-                         "1e23",
-                         "12345678.90123e-5",
-                         "-0",
-                         "000000000000000000000000001.5"};
-  for (const char* text : texts) {
-    double expected = 0.0;
-    std::from_chars(text, text + std::strlen(text), expected);
-    double value = 0.0;
-    EXPECT_FALSE(lx::GetDoubleNoMessage(QString::fromLatin1(text), &value)) << text;
-    EXPECT_EQ(value, expected) << text;
-    EXPECT_EQ(std::signbit(value), std::signbit(expected)) << text;
-  }
+  const struct {
+    std::vector<double> values;
+    int count;
+    bool simple;
+  } cases[] = {{{1, -2, 1e9, -1e9}, 4, true}, {{1, 1e9 + 1}, 2, false}, {{1, 2.5}, 2, false},
+               {{std::nan("")}, 1, false},    {{1, 2.5}, 1, true},      {{}, 0, true},
+               {{1, 2.5}, -1, true}};
+  for (const auto& c : cases)
+    EXPECT_EQ(lx::SimpleValues(c.values.empty() ? nullptr : c.values.data(), c.count), c.simple)
+        << &c - cases;
 }
 
 }  // namespace
