@@ -79,21 +79,18 @@ TEST(GetDouble, RoundsLikeFromChars) {
 }
 
 TEST(GetNumber, RoundsHalfAwayFromZero) {
-  constexpr int kKept = 12345;  // the text does not read and the output stays
   const std::pair<const char*, int> cases[] = {{"2.5", 3},
                                                {"-2.5", -3},
                                                {"2.4999", 2},
                                                {"0", 0},
+                                               {"1,5", 2},
                                                {"inf", INT_MIN},
                                                {"3e9", INT_MIN},
                                                {"2147483647.4", INT_MAX},
-                                               {"-2147483648.4", INT_MIN},
-                                               {"1,5", 2},
-                                               {"abc", kKept},
-                                               {"", kKept}};
+                                               {"-2147483648.4", INT_MIN}};
   for (const auto& [text, want] : cases) {
-    int out = kKept;
-    EXPECT_EQ(lx::GetNumberNoMessage(QString::fromLatin1(text), &out), want == kKept) << text;
+    int out = 12345;
+    EXPECT_FALSE(lx::GetNumberNoMessage(QString::fromLatin1(text), &out)) << text;
     EXPECT_EQ(out, want) << text;
   }
 }
@@ -214,12 +211,14 @@ TEST(ReaderCopy, KeepsThirtyCharactersUpToANul) {
 }
 
 TEST(BadInput, NeverCrashesAndNeverStores) {
-  std::vector<QString> texts = {QString(1, u'1') + QString(10000, u'x'),
-                                QString(10000, u'x'),
-                                QString(1, QChar(0xD800)),
-                                QStringLiteral("\x01\x02\x7f"),
-                                QString(3, QChar(0xDFFF)) + QStringLiteral("1"),
-                                QStringLiteral("\u4e00\u4e8c")};
+  const QString texts[] = {QString(),
+                           QStringLiteral("abc"),
+                           QString(10000, u'x'),
+                           QString(1, u'1') + QString(10000, u'x'),
+                           QString(1, QChar(0xD800)),
+                           QString(3, QChar(0xDFFF)) + u'1',
+                           QStringLiteral("\x01\x02\x7f"),
+                           QStringLiteral("\u4e00\u4e8c")};
   for (const QString& text : texts) {
     double value = kUntouched;
     int number = 5;

@@ -63,17 +63,19 @@ TEST_F(Profile, LengthsRealsAndBools) {
 
 TEST_F(Profile, StringsAreCutTo254Characters) {
   const wchar_t* f = WithFile("[S]\nlong=" + QByteArray(300, 'x') + "\nquoted=\"a b\"\nempty=\n");
-  QString out;
-  lx::GetIniFileString(f, L"S", L"long", L"d", &out);
-  EXPECT_EQ(out, QString(254, u'x'));
-  lx::GetIniFileString(f, L"S", L"quoted", L"d", &out);
-  EXPECT_EQ(out, QStringLiteral("a b"));
-  lx::GetIniFileString(f, L"S", L"empty", L"d", &out);
-  EXPECT_EQ(out, QStringLiteral("d"));
-  lx::GetIniFileString(f, L"S", L"missing", nullptr, &out);
-  EXPECT_EQ(out, QString());
-  lx::GetIniFileString(nullptr, L"S", L"long", L"d", &out);
-  EXPECT_EQ(out, QStringLiteral("d"));
+  const struct {
+    const wchar_t *file, *key, *def;
+    QString expected;
+  } cases[] = {{f, L"long", L"d", QString(254, u'x')},
+               {f, L"quoted", L"d", "a b"},
+               {f, L"empty", L"d", "d"},
+               {f, L"missing", nullptr, ""},
+               {nullptr, L"long", L"d", "d"}};
+  for (const auto& c : cases) {
+    QString out = "stale";
+    lx::GetIniFileString(c.file, L"S", c.key, c.def, &out);
+    EXPECT_EQ(out, c.expected) << QString::fromWCharArray(c.key).toStdString();
+  }
 }
 
 TEST_F(Profile, WritesChangeOnlyTheirOwnLine) {
@@ -95,18 +97,16 @@ TEST_F(Profile, WritesChangeOnlyTheirOwnLine) {
 }
 
 TEST_F(Profile, Utf16FilesStayUtf16) {
-  const QString text = QStringLiteral("[Sec]\r\nname=\u00e9t\u00e9\r\n");
-  QByteArray bytes("\xFF\xFE", 2);
-  bytes += QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
-  const wchar_t* f = WithFile(bytes);
+  const auto utf16 = [](const QString& text) {
+    return QByteArray("\xFF\xFE", 2) +
+           QByteArray(reinterpret_cast<const char*>(text.utf16()), text.size() * 2);
+  };
+  const wchar_t* f = WithFile(utf16("[Sec]\r\nname=\u00e9t\u00e9\r\n"));
   QString out;
   lx::GetIniFileString(f, L"SEC", L"NAME", L"", &out);
   EXPECT_EQ(out, QStringLiteral("\u00e9t\u00e9"));
   lx::WriteIniFileString(f, L"Sec", L"new", L"\u03bcm");
-  const QString after = QStringLiteral("[Sec]\r\nname=\u00e9t\u00e9\r\nnew=\u03bcm\r\n");
-  QByteArray expected("\xFF\xFE", 2);
-  expected += QByteArray(reinterpret_cast<const char*>(after.utf16()), after.size() * 2);
-  EXPECT_EQ(Contents(), expected);
+  EXPECT_EQ(Contents(), utf16("[Sec]\r\nname=\u00e9t\u00e9\r\nnew=\u03bcm\r\n"));
 }
 
 TEST_F(Profile, UnusableFilesGiveDefaultsAndStayUnchanged) {
@@ -142,16 +142,11 @@ TEST_F(Profile, ReadOnlyFilesAreNotReplaced) {
   EXPECT_EQ(lx::GetIniFileInteger(f, L"S", L"k", 0), 1);
 }
 
-TEST(IniFile, KeepsLatin1BytesAndAFileWithoutFinalNewline) {
-  lxtest::TempDir dir;
-  const QString path = dir.Path("legacy.ini");
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("[S]\nname=caf\xe9\nk=1");
-  file.close();
+TEST_F(Profile, KeepsLatin1BytesAndAFileWithoutFinalNewline) {
+  WithFile("[S]\nname=caf\xe9\nk=1");
+  const QString path = QString::fromStdWString(path_);
   EXPECT_TRUE(lx::ini::WriteProfileString(path, "s", "K", "2"));
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(), QByteArray("[S]\nname=caf\xe9\nk=2"));
+  EXPECT_EQ(Contents(), QByteArray("[S]\nname=caf\xe9\nk=2"));
   QString out;
   EXPECT_EQ(lx::ini::ReadProfileString(path, "S", "name", "", &out), 4);
   EXPECT_EQ(out, QStringLiteral("caf\u00e9"));
