@@ -9,6 +9,7 @@
 #include <cstring>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "lxcomp/LxMisc.h"
@@ -79,80 +80,66 @@ TEST(GetDouble, RoundsLikeFromChars) {
 }
 
 TEST(GetNumber, RoundsHalfAwayFromZero) {
-  const std::pair<const char*, int> cases[] = {{"2.5", 3},
-                                               {"-2.5", -3},
-                                               {"2.4999", 2},
-                                               {"0", 0},
-                                               {"1,5", 2},
-                                               {"inf", INT_MIN},
-                                               {"3e9", INT_MIN},
-                                               {"2147483647.4", INT_MAX},
-                                               {"-2147483648.4", INT_MIN}};
-  for (const auto& [text, want] : cases) {
+  const char* texts[] = {"2.5", "-2.5",         "2.4999",       "0", "1,5", "inf",
+                         "3e9", "2147483647.4", "-2147483648.4"};
+  const int rounded[] = {3, -3, 2, 0, 2, INT_MIN, INT_MIN, INT_MAX, INT_MIN};
+  for (size_t i = 0; i < std::size(texts); ++i) {
     int out = 12345;
-    EXPECT_FALSE(lx::GetNumberNoMessage(QString::fromLatin1(text), &out)) << text;
-    EXPECT_EQ(out, want) << text;
+    EXPECT_FALSE(lx::GetNumberNoMessage(QString::fromLatin1(texts[i]), &out)) << texts[i];
+    EXPECT_EQ(out, rounded[i]) << texts[i];
   }
 }
 
 TEST(Print, TrimsZerosAndSeparator) {
-  const struct {
-    double nanometres;
-    const wchar_t* text;
-  } cases[] = {{1500.0, L"1.5"}, {1000.0, L"1"},   {0.0, L"0"},        {1234567.0, L"1234.567"},
-               {0.0004, L"0"},   {-0.0004, L"-0"}, {100000.0, L"100"}, {-2500.5, L"-2.5005"},
-               {1.0, L"0.001"},  {kInf, L"inf"},   {-kInf, L"-inf"}};
-  for (const auto& c : cases) {
+  const std::pair<double, const wchar_t*> cases[] = {
+      {1500.0, L"1.5"}, {1000.0, L"1"},   {0.0, L"0"},        {1234567.0, L"1234.567"},
+      {0.0004, L"0"},   {-0.0004, L"-0"}, {100000.0, L"100"}, {-2500.5, L"-2.5005"},
+      {1.0, L"0.001"},  {kInf, L"inf"},   {-kInf, L"-inf"}};
+  for (const auto& [nanometres, want] : cases) {
     wchar_t buffer[64];
-    lx::PrintMicrons(c.nanometres, buffer, 64);
-    EXPECT_EQ(std::wstring(buffer), c.text) << c.nanometres;
+    lx::PrintMicrons(nanometres, buffer, 64);
     QString text;
-    lx::PrintMicrons(c.nanometres, &text);
-    EXPECT_EQ(text, QString::fromWCharArray(c.text));
+    lx::PrintMicrons(nanometres, &text);
     QLineEdit edit;
-    lx::PrintDouble(c.nanometres / 1000.0, &edit);
-    EXPECT_EQ(edit.text(), QString::fromWCharArray(c.text));
+    lx::PrintDouble(nanometres / 1000.0, &edit);
+    EXPECT_EQ(std::wstring(buffer), want) << nanometres;
+    EXPECT_EQ(text, QString::fromWCharArray(want)) << nanometres;
+    EXPECT_EQ(edit.text(), QString::fromWCharArray(want)) << nanometres;
   }
   wchar_t buffer[8];
   lx::PrintDouble(-0.0, buffer, 8);
   EXPECT_EQ(std::wstring(buffer), L"-0");
+  for (const int value : {0, 42, -7, INT_MIN, INT_MAX}) {  // whole numbers
+    QString text;
+    lx::PrintNumber(value, &text);
+    QLineEdit edit;
+    lx::PrintNumber(value, &edit);
+    EXPECT_EQ(text, QString::number(value));
+    EXPECT_EQ(edit.text(), QString::number(value));
+  }
 }
 
 TEST(Print, NeverWritesBeyondTheBuffer) {
-  const struct {
-    double value;
-    int size;
-    const wchar_t* text;  // nullptr: the buffer is untouched
-  } cases[] = {{1234.5, 5, L"1234"}, {100.0, 4, L"1"},  {0.5, 2, L"0"},
-               {7.0, 1, L""},        {7.0, 0, nullptr}, {7.0, -3, nullptr}};
-  for (const auto& c : cases) {
+  const std::tuple<double, int, const wchar_t*> cases[] = {
+      // nullptr: the buffer is untouched
+      {1234.5, 5, L"1234"}, {100.0, 4, L"1"},  {0.5, 2, L"0"},
+      {7.0, 1, L""},        {7.0, 0, nullptr}, {7.0, -3, nullptr}};
+  for (const auto& [value, size, text] : cases) {
     wchar_t buffer[16];
     std::fill(std::begin(buffer), std::end(buffer), L'#');
-    lx::PrintDouble(c.value, buffer, c.size);
-    if (c.text) {
-      EXPECT_EQ(std::wstring(buffer), c.text) << c.value << " in " << c.size;
-    } else {
-      EXPECT_EQ(buffer[0], L'#');
+    lx::PrintDouble(value, buffer, size);
+    const int beyond = std::max(size, 0);
+    EXPECT_EQ(std::wstring(buffer + beyond, 16 - beyond), std::wstring(16 - beyond, L'#')) << size;
+    if (text) {
+      EXPECT_EQ(std::wstring(buffer), text) << value << " in " << size;
     }
-    EXPECT_EQ(buffer[std::max(c.size, 0)], L'#') << c.size;
   }
   wchar_t number[4] = {L'#', L'#', L'#', L'#'};
   lx::PrintNumber(12345, number, 3);
-  EXPECT_EQ(std::wstring(number), L"12");
+  EXPECT_EQ(std::wstring(number, 4), std::wstring(L"12\0#", 4));
   lx::PrintDouble(1.0, nullptr, 10);
   lx::PrintMicrons(1.0, static_cast<QString*>(nullptr));
   lx::PrintNumber(1, static_cast<QLineEdit*>(nullptr));
-}
-
-TEST(Print, WholeNumbers) {
-  for (const int value : {0, 42, -7, INT_MIN, INT_MAX}) {
-    QString text;
-    lx::PrintNumber(value, &text);
-    EXPECT_EQ(text, QString::number(value));
-    QLineEdit edit;
-    lx::PrintNumber(value, &edit);
-    EXPECT_EQ(edit.text(), QString::number(value));
-  }
 }
 
 class LoudReaders : public ::testing::Test {
@@ -235,14 +222,13 @@ TEST(BadInput, NeverCrashesAndNeverStores) {
 }
 
 TEST(Stepping, OneTwoFiveSeries) {
-  const struct {
-    double from, up, down;
-  } cases[] = {{1, 2, 0.5},   {2, 5, 1},       {5, 10, 2},           {10, 20, 5},
-               {3, 5, 2},     {0.3, 0.5, 0.2}, {99999999, 1e8, 5e7}, {2e8, 1e8, 1e8},
-               {0, 0, 0.001}, {-5, 0, 0.001},  {0.001, 0.005, 0.001}};
+  const double cases[][3] = {// from, up, down
+                             {1, 2, 0.5},   {2, 5, 1},       {5, 10, 2},           {10, 20, 5},
+                             {3, 5, 2},     {0.3, 0.5, 0.2}, {99999999, 1e8, 5e7}, {2e8, 1e8, 1e8},
+                             {0, 0, 0.001}, {-5, 0, 0.001},  {0.001, 0.005, 0.001}};
   for (const auto& c : cases) {
-    EXPECT_DOUBLE_EQ(lx::IncreaseValue(c.from), c.up) << c.from;
-    EXPECT_DOUBLE_EQ(lx::DecreaseValue(c.from), c.down) << c.from;
+    EXPECT_DOUBLE_EQ(lx::IncreaseValue(c[0]), c[1]) << c[0];
+    EXPECT_DOUBLE_EQ(lx::DecreaseValue(c[0]), c[2]) << c[0];
   }
 }
 
