@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <cmath>
 #include <string>
+#include <tuple>
 
 #include "lxcomp/LxProfile.h"
 #include "numeric/IniFile.h"
@@ -16,32 +16,31 @@ namespace {
 class Profile : public ::testing::Test {
  protected:
   // Writes the bytes as the profile file and returns its path as a wide string.
-  const wchar_t* WithFile(const QByteArray& bytes, const QString& name = "p.ini") {
-    QFile file(dir_.Path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    path_ = dir_.Path(name).toStdWString();
+  const wchar_t* WithFile(const QByteArray& bytes) {
+    QFile file(dir_.Path("p.ini"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    path_ = file.fileName().toStdWString();
     return path_.c_str();
   }
   QByteArray Contents() const {
     QFile file(QString::fromStdWString(path_));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
   }
+  std::wstring Wide(const QString& name) const { return dir_.Path(name).toStdWString(); }
   lxtest::TempDir dir_;
   std::wstring path_;
 };
 
 TEST_F(Profile, BoundedIntegers) {
   const wchar_t* f = WithFile("[S]\nabc=abc\nbig=50\nneg=-3\nseven=7\nten=10\nempty=\n");
-  const struct {
-    const wchar_t* key;
-    long def, min, max, expected;
-  } cases[] = {{L"missing", 5, 1, 10, 5}, {L"abc", 5, 1, 10, 1},      {L"big", 5, 1, 10, 10},
-               {L"neg", 5, 1, 10, 1},     {L"seven", 5, 1, 1, 7},     {L"ten", 5, 1, 10, 10},
-               {L"empty", 50, 1, 10, 50}, {L"missing", 50, 1, 10, 10}};
-  for (const auto& c : cases)
-    EXPECT_EQ(lx::GetIniFileInteger(f, L"S", c.key, c.def, c.min, c.max), c.expected)
-        << QString::fromWCharArray(c.key).toStdString();
+  // Key, default, min, max (equal bounds: none), value.
+  const std::tuple<const wchar_t*, long, long, long, long> cases[] = {
+      {L"missing", 5, 1, 10, 5}, {L"abc", 5, 1, 10, 1},      {L"big", 5, 1, 10, 10},
+      {L"neg", 5, 1, 10, 1},     {L"seven", 5, 1, 1, 7},     {L"ten", 5, 1, 10, 10},
+      {L"empty", 50, 1, 10, 50}, {L"missing", 50, 1, 10, 10}};
+  for (const auto& [key, def, min, max, expected] : cases)
+    EXPECT_EQ(lx::GetIniFileInteger(f, L"S", key, def, min, max), expected)
+        << QString::fromWCharArray(key).toStdString();
   EXPECT_EQ(lx::GetIniFileInteger(nullptr, L"S", L"big", 50, 1, 10), 50);
   EXPECT_EQ(lx::GetIniFileInteger(f, L"s", L"BIG", 0), 50);
 }
@@ -63,18 +62,16 @@ TEST_F(Profile, LengthsRealsAndBools) {
 
 TEST_F(Profile, StringsAreCutTo254Characters) {
   const wchar_t* f = WithFile("[S]\nlong=" + QByteArray(300, 'x') + "\nquoted=\"a b\"\nempty=\n");
-  const struct {
-    const wchar_t *file, *key, *def;
-    QString expected;
-  } cases[] = {{f, L"long", L"d", QString(254, u'x')},
-               {f, L"quoted", L"d", "a b"},
-               {f, L"empty", L"d", "d"},
-               {f, L"missing", nullptr, ""},
-               {nullptr, L"long", L"d", "d"}};
-  for (const auto& c : cases) {
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, QString> cases[] = {
+      {f, L"long", L"d", QString(254, u'x')},
+      {f, L"quoted", L"d", "a b"},
+      {f, L"empty", L"d", "d"},
+      {f, L"missing", nullptr, ""},
+      {nullptr, L"long", L"d", "d"}};
+  for (const auto& [file, key, def, expected] : cases) {
     QString out = "stale";
-    lx::GetIniFileString(c.file, L"S", c.key, c.def, &out);
-    EXPECT_EQ(out, c.expected) << QString::fromWCharArray(c.key).toStdString();
+    lx::GetIniFileString(file, L"S", key, def, &out);
+    EXPECT_EQ(out, expected) << QString::fromWCharArray(key).toStdString();
   }
 }
 
@@ -111,15 +108,12 @@ TEST_F(Profile, Utf16FilesStayUtf16) {
 
 TEST_F(Profile, UnusableFilesGiveDefaultsAndStayUnchanged) {
   // A missing file in an existing folder is created by the first write.
-  const std::wstring fresh = dir_.Path("new.ini").toStdWString();
-  EXPECT_EQ(lx::GetIniFileInteger(fresh.c_str(), L"S", L"k", 3, 0, 0), 3);
-  lx::WriteIniFileInteger(fresh.c_str(), L"S", L"k", 9);
-  EXPECT_EQ(lx::GetIniFileInteger(fresh.c_str(), L"S", L"k", 3, 0, 0), 9);
-  // No folder: nothing is created.
-  const std::wstring nowhere = dir_.Path("no/such/p.ini").toStdWString();
-  lx::WriteIniFileInteger(nowhere.c_str(), L"S", L"k", 9);
+  EXPECT_EQ(lx::GetIniFileInteger(Wide("new.ini").c_str(), L"S", L"k", 3, 0, 0), 3);
+  lx::WriteIniFileInteger(Wide("new.ini").c_str(), L"S", L"k", 9);
+  EXPECT_EQ(lx::GetIniFileInteger(Wide("new.ini").c_str(), L"S", L"k", 3, 0, 0), 9);
+  // No folder: nothing is created. A folder as the profile path: nothing read or written.
+  lx::WriteIniFileInteger(Wide("no/such/p.ini").c_str(), L"S", L"k", 9);
   EXPECT_FALSE(QFileInfo::exists(dir_.Path("no")));
-  // A folder as the profile path.
   const std::wstring folder = dir_.Root().toStdWString();
   lx::WriteIniFileInteger(folder.c_str(), L"S", L"k", 9);
   EXPECT_EQ(lx::GetIniFileInteger(folder.c_str(), L"S", L"k", 3, 0, 0), 3);
@@ -139,7 +133,7 @@ TEST_F(Profile, ReadOnlyFilesAreNotReplaced) {
   QFile::setPermissions(QString::fromStdWString(path_), QFile::ReadOwner);
   if (QFileInfo(QString::fromStdWString(path_)).isWritable()) GTEST_SKIP() << "running as root";
   lx::WriteIniFileInteger(f, L"S", L"k", 9);
-  EXPECT_EQ(lx::GetIniFileInteger(f, L"S", L"k", 0), 1);
+  EXPECT_EQ(Contents(), "[S]\nk=1\n");
 }
 
 TEST_F(Profile, KeepsLatin1BytesAndAFileWithoutFinalNewline) {
