@@ -105,8 +105,8 @@ TEST(Intersect, EndPointsCountAndNothingIsWrittenOnAMiss) {
 }
 
 TEST(DistanceToLineSegment, MinusOneWhenTheFootLiesOutside) {
+  // Segment, point, distance.
   const double cases[][7] = {
-      // segment, point, distance
       {0, 0, 4, 0, 5, 1, -1}, {0, 0, 4, 0, 2, 3, 3},  {0, 0, 4, 0, 4, -2, 2},
       {0, 0, 0, 4, 3, 2, 3},  {0, 0, 0, 4, 3, 5, -1}, {0, 4, 0, 0, -1, 4, 1},
       {1, 1, 1, 1, 4, 1, 3},  {1, 1, 1, 1, 4, 2, -1}, {0, 0, 4, 4, 0, 4, std::sqrt(8.0)},
@@ -117,21 +117,16 @@ TEST(DistanceToLineSegment, MinusOneWhenTheFootLiesOutside) {
 }
 
 TEST(Comparisons, SameAngleWithinAThousandthOfADegreeAndValueInRangeInclusive) {
-  const std::tuple<double, double, bool> angles[] = {{0, 2 * M_PI - 0.000001, true},
-                                                     {2 * M_PI - 0.000001, 0, true},
-                                                     {0, 4 * M_PI, false},
-                                                     {1, 1 + 1.7e-5, true},
-                                                     {1, 1 + 1.8e-5, false},
-                                                     {-M_PI, M_PI, true},
-                                                     {0.5, -0.5, false},
-                                                     {kNaN, kNaN, false}};
-  for (const auto& [a, b, same] : angles)
-    EXPECT_EQ(lx::SameAngleRadians(a, b), same) << a << " " << b;
-  const std::pair<Four, bool> ranges[] = {{{5, 10, 0}, true},   {{0, 0, 10}, true},
-                                          {{11, 0, 10}, false}, {{-1, 0, 10}, false},
-                                          {{10, 10, 0}, true},  {{kNaN, 0, 10}, false}};
-  for (const auto& [r, in] : ranges)
-    EXPECT_EQ(lx::ValueInRange(r[0], r[1], r[2]), in) << r[0];
+  const double turn = 2 * M_PI,
+               angles[][3] = {{0, turn - 1e-6, 1}, {turn - 1e-6, 0, 1}, {0, 2 * turn, 0},
+                              {1, 1 + 1.7e-5, 1},  {1, 1 + 1.8e-5, 0},  {-M_PI, M_PI, 1},
+                              {0.5, -0.5, 0},      {kNaN, kNaN, 0}};
+  for (const auto& a : angles)
+    EXPECT_EQ(lx::SameAngleRadians(a[0], a[1]), a[2] != 0) << a[0] << " " << a[1];
+  const double ranges[][4] = {{5, 10, 0, 1},  {0, 0, 10, 1},  {11, 0, 10, 0},
+                              {-1, 0, 10, 0}, {10, 10, 0, 1}, {kNaN, 0, 10, 0}};
+  for (const auto& r : ranges)
+    EXPECT_EQ(lx::ValueInRange(r[0], r[1], r[2]), r[3] != 0) << r[0];
 }
 
 TEST(CircleLineIntersection, WhereTheRayFromInsideLeavesTheCircle) {
@@ -151,8 +146,8 @@ TEST(CircleLineIntersection, WhereTheRayFromInsideLeavesTheCircle) {
 }
 
 TEST(LineIntersection2, AxisParallelLinesNeedNoDivisionByZero) {
+  // Point and direction of each line, expected x, y.
   const double cases[][10] = {
-      // point and direction of each line, expected x, y
       {1, 2, 0, 1, 5, 6, 0, 3, 1, 2},  // both vertical: the first point
       {3, 0, 0, 1, 0, 0, 1, 2, 3, 6}, {0, 0, 1, 2, 3, 0, 0, 1, 3, 6},  // one vertical
       {1, 2, 1, 0, 5, 6, 3, 0, 1, 2},                                  // both horizontal
