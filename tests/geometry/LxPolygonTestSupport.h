@@ -37,18 +37,17 @@ inline lx::SelfIntersection ReferenceSelfIntersection(const double* nodes, unsig
       addEvent(py);
       const double dxo = x(ip) - x(i), dyo = y(ip) - y(i), dxi = x(jp) - x(j), dyi = y(jp) - y(j);
       auto meet = [&](unsigned a, unsigned b) { return x(a) == x(b) && y(a) == y(b); };
-      bool allowed;
-      if (dxo == 0 && dxi == 0) {
+      auto atNode = [&](unsigned k) { return px == x(k) && py == y(k); };
+      bool allowed;  // a touch, not a crossing
+      if (dxo == 0 && dxi == 0)
         allowed = dyo * dyi <= 0 || y(i) == y(jp) || y(ip) == y(j);
-      } else if (dyo == 0 && dyi == 0) {
+      else if (dyo == 0 && dyi == 0)
         allowed = dxo * dxi <= 0 || x(i) == x(jp) || x(ip) == x(j);
-      } else if (lx::SameAngleRadians(std::atan2(dyo, dxo), std::atan2(dyi, dxi))) {
+      else if (lx::SameAngleRadians(std::atan2(dyo, dxo), std::atan2(dyi, dxi)))
         allowed = meet(ip, j) || meet(i, jp);
-      } else {
-        auto atNode = [&](unsigned k) { return px == x(k) && py == y(k); };
+      else
         allowed = lx::SameAngleRadians(std::atan2(dyo, dxo) + M_PI, std::atan2(dyi, dxi)) ||
                   atNode(i) || atNode(ip) || atNode(j) || atNode(jp);
-      }
       if (!allowed) return SelfIntersection::ForbiddenContact;
     }
   }
@@ -58,9 +57,8 @@ inline lx::SelfIntersection ReferenceSelfIntersection(const double* nodes, unsig
     if (!std::isnan(a.first) && a.first != b.first) return a.first < b.first;
     return !a.second && b.second;
   };
-  for (auto a = events.begin(), b = std::next(a); a != events.end() && b != events.end();
-       ++a, ++b) {
-    const double line = (*a + *b) * 0.5;
+  for (auto a = events.begin(); a != events.end() && std::next(a) != events.end(); ++a) {
+    const double line = (*a + *std::next(a)) * 0.5;
     crossings.clear();
     for (unsigned k = 1; k <= count; ++k) {
       const unsigned from = k - 1, to = k % count;
