@@ -26,9 +26,7 @@ Nodes Reversed(const Nodes& p) {
   return r;
 }
 
-unsigned Count(const Nodes& p) {
-  return static_cast<unsigned>(p.size() / 2);
-}
+const auto Count = [](const Nodes& p) { return static_cast<unsigned>(p.size() / 2); };
 
 TEST(PolygonAnalysis, NamedShapes) {
   const struct {
