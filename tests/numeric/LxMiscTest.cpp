@@ -142,25 +142,15 @@ TEST(Print, NeverWritesBeyondTheBuffer) {
   lx::PrintNumber(1, static_cast<QLineEdit*>(nullptr));
 }
 
-class LoudReaders : public ::testing::Test {
- protected:
-  void SetUp() override {
-    form_.show();
-    lx::SetMainForm(&form_);
-    lx::SetMessageHook([this](const QString& text, int kind, int help) {
-      messages_.push_back(text + QStringLiteral(" |%1|%2").arg(kind).arg(help));
-      return lx::mrOk;
-    });
-  }
-  void TearDown() override {
-    lx::SetMessageHook(nullptr);
-    lx::SetMainForm(nullptr);
-  }
-  QWidget form_;
-  std::vector<QString> messages_;
-};
-
-TEST_F(LoudReaders, QuoteAtMostTwentyCharactersWhileTheMainFormShows) {
+TEST(LoudReaders, QuoteAtMostTwentyCharactersWhileTheMainFormShows) {
+  QWidget form;
+  form.show();
+  lx::SetMainForm(&form);
+  std::vector<QString> messages;
+  lx::SetMessageHook([&messages](const QString& text, int kind, int help) {
+    messages.push_back(text + QStringLiteral(" |%1|%2").arg(kind).arg(help));
+    return lx::mrOk;
+  });
   double value = kUntouched;
   int number = 5;
   EXPECT_TRUE(lx::GetCoordinate(QStringLiteral("12.5mm"), &value));
@@ -178,11 +168,13 @@ TEST_F(LoudReaders, QuoteAtMostTwentyCharactersWhileTheMainFormShows) {
        {u"12.5mm", u"abcdefghijklmnopqrst", u"", u"x\u00e9\U0001F600", u"1.5x", u"1,5x", u""})
     expected.push_back(
         QStringLiteral("'%1' is not a valid number |-1|0").arg(QString::fromUtf16(quoted)));
-  EXPECT_EQ(messages_, expected);
-  form_.hide();  // silent while the main form is hidden
+  EXPECT_EQ(messages, expected);
+  form.hide();  // silent while the main form is hidden
   EXPECT_TRUE(lx::GetDouble(QStringLiteral("x"), &value));
-  EXPECT_EQ(messages_, expected);
+  EXPECT_EQ(messages, expected);
   EXPECT_EQ(value, 2000.0);
+  lx::SetMessageHook(nullptr);
+  lx::SetMainForm(nullptr);
 }
 
 TEST(ReaderCopy, KeepsThirtyCharactersUpToANul) {
