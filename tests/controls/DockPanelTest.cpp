@@ -29,17 +29,23 @@ void SendMouse(QWidget* target, QEvent::Type type, QPoint global, Qt::MouseButto
   QApplication::sendEvent(target, &event);
 }
 
+// A 600 x 400 window with a dock on each side and a canvas between; the top dock holds "File"
+// (three buttons) and "Edit" (button, drop-down, separator, check button).
 class DockTest : public testing::Test {
  protected:
   void SetUp() override {
     host = std::make_unique<QWidget>();
-    host->resize(600, 400);
-    host->move(50, 60);
-    top = MakeDock(alTop);
-    bottom = MakeDock(alBottom);
-    left = MakeDock(alLeft);
-    right = MakeDock(alRight);
+    host->setGeometry(50, 60, 600, 400);
+    for (auto [dock, align, name] : {std::tuple{&top, alTop, "top"},
+                                     {&bottom, alBottom, "bottom"},
+                                     {&left, alLeft, "left"},
+                                     {&right, alRight, "right"}}) {
+      *dock = new TLxDockPanel(host.get());
+      (*dock)->SetAlign(align);
+      (*dock)->setObjectName(name);
+    }
     canvas = new QWidget(host.get());
+    canvas->setObjectName("canvas");
     SetWidgetAlign(canvas, alClient);
     AddToolBar(top, "File", {lxNormalButton, lxNormalButton, lxNormalButton});
     AddToolBar(top, "Edit", {lxNormalButton, lxDropDown, lxSeparator, lxCheckButton});
@@ -49,11 +55,6 @@ class DockTest : public testing::Test {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  TLxDockPanel* MakeDock(TAlign align) {
-    auto* dock = new TLxDockPanel(host.get());
-    dock->SetAlign(align);
-    return dock;
-  }
   TLxToolBarPanel* AddToolBar(TLxDockPanel* dock, const QString& name,
                               std::vector<TLxButtonType> types) {
     TLxToolBarPanel* toolBar = dock->GetToolBars()->Add();
@@ -75,16 +76,45 @@ class DockTest : public testing::Test {
     QApplication::processEvents();
   }
   TLxButtonPanel* Strip(const char* name) { return GetLxToolBar(QString::fromLatin1(name)); }
+  QPoint At(int x, int y) { return host->mapToGlobal(QPoint(x, y)); }
   // Presses on the grip of a strip and returns the screen point.
   QPoint PressGrip(TLxButtonPanel* strip) {
-    const QPoint grip(3, 10);
-    QTest::mousePress(strip, Qt::LeftButton, Qt::NoModifier, grip);
-    return strip->mapToGlobal(grip);
+    QTest::mousePress(strip, Qt::LeftButton, Qt::NoModifier, QPoint(3, 10));
+    return strip->mapToGlobal(QPoint(3, 10));
   }
   void DragTo(QPoint global) { SendMouse(host.get(), QEvent::MouseMove, global, Qt::LeftButton); }
   void Release(QPoint global) {
     SendMouse(host.get(), QEvent::MouseButtonRelease, global, Qt::NoButton, Qt::LeftButton);
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  // Drags "Edit" by its grip into the middle of the window, where it floats.
+  TLxButtonPanel* TearOffEdit() {
+    PressGrip(Strip("Edit"));
+    DragTo(At(300, 200));
+    EXPECT_TRUE(Strip("Edit")->IsFloating());
+    return Strip("Edit");
+  }
+
+  // "x,y wxh" of a widget, "hidden " first when it is hidden.
+  static std::string Shown(const QWidget* w) {
+    return QString::asprintf("%s%d,%d %dx%d", w->isHidden() ? "hidden " : "", w->x(), w->y(),
+                             w->width(), w->height())
+        .toStdString();
+  }
+  // The window's layout: each dock, then the canvas.
+  std::string Docks() {
+    std::string text;
+    for (const QWidget* w : std::initializer_list<const QWidget*>{top, bottom, left, right, canvas})
+      text += w->objectName().toStdString() + " " + Shown(w) + "; ";
+    return text;
+  }
+  // Where a toolbar is: "<dock> x,y wxh" in its dock, or "floating x,y wxh" on the screen.
+  std::string Where(const char* name) {
+    TLxToolBarPanel* toolBar = top->GetToolBar(name);
+    if (!toolBar) return "missing";
+    TLxButtonPanel* strip = toolBar->GetPanel();
+    if (strip->IsFloating()) return "floating " + Shown(strip->GetFloatingWindow());
+    return toolBar->GetDock()->objectName().toStdString() + " " + Shown(strip);
   }
 
   std::unique_ptr<QWidget> host;
@@ -92,32 +122,30 @@ class DockTest : public testing::Test {
   QWidget* canvas = nullptr;
 };
 
-TEST_F(DockTest, LoadedLaysOutStripsAndDocks) {
-  Load();
-  EXPECT_TRUE(top->GetHorizontal());
-  EXPECT_FALSE(left->GetHorizontal());
-  EXPECT_TRUE(top->GetIsLoaded());
-  EXPECT_EQ(Strip("File")->geometry(), QRect(0, 0, 80, 25));
-  EXPECT_EQ(Strip("Edit")->geometry(), QRect(80, 0, 96, 25));  // grip 8, 24 + 32 + 8 + 24
-  EXPECT_EQ(top->geometry(), QRect(0, 0, 600, 25));
-  EXPECT_EQ(bottom->geometry(), QRect(0, 357, 600, 43));  // buttons + 1 + status line
-  EXPECT_TRUE(left->isHidden());
-  EXPECT_TRUE(right->isHidden());
-  EXPECT_EQ(canvas->geometry(), QRect(0, 25, 600, 332));
+class LoadedDockTest : public DockTest {
+ protected:
+  void SetUp() override {
+    DockTest::SetUp();
+    Load();
+  }
+};
+
+TEST_F(LoadedDockTest, LaysOutStripsAndDocksAndFindsToolbarsByExactName) {
+  // the bottom dock: a row of buttons, 1, and the status line; strips: grip 8, then the buttons
+  EXPECT_EQ(Docks(),
+            "top 0,0 600x25; bottom 0,357 600x43; left hidden 0,25 25x332; right hidden "
+            "575,25 25x332; canvas 0,25 600x332; ");
+  EXPECT_EQ(Where("File"), "top 0,0 80x25");
+  EXPECT_EQ(Where("Edit"), "top 80,0 96x25");
   EXPECT_EQ(top->GetNumVisiblePanels(), 2);
   EXPECT_EQ(Strip("Edit")->GetButtons()->Items(0)->GetButton()->toolTip(), "Edit tip");
-}
-
-TEST_F(DockTest, ToolBarsAreFoundByExactName) {
-  Load();
   EXPECT_EQ(Strip("Edit"), top->GetToolBars()->Items(1)->GetPanel());
   EXPECT_EQ(left->GetToolBar("File"), top->GetToolBars()->Items(0));
   EXPECT_EQ(GetLxToolBar("edit"), nullptr);
   EXPECT_EQ(left->GetToolBar("Nothing"), nullptr);
 }
 
-TEST_F(DockTest, DraggingTheGripAlongTheDockSwapsAtTheNeighboursStart) {
-  Load();
+TEST_F(LoadedDockTest, DraggingTheGripAlongTheDockSwapsAtTheNeighboursStart) {
   TLxButtonPanel* edit = Strip("Edit");
   const QPoint start = PressGrip(edit);
   EXPECT_TRUE(edit->GetDragging());
@@ -133,31 +161,25 @@ TEST_F(DockTest, DraggingTheGripAlongTheDockSwapsAtTheNeighboursStart) {
   EXPECT_FALSE(edit->GetMouseIsDown());
 }
 
-TEST_F(DockTest, DraggingForwardPushesOrSwapsAndClampsAtTheEnd) {
-  Load();
-  TLxButtonPanel* file = Strip("File");
-  TLxButtonPanel* edit = Strip("Edit");
-  QPoint start = PressGrip(file);
-  DragTo(start + QPoint(50, 0));
-  EXPECT_EQ(file->x(), 50);
-  EXPECT_EQ(edit->x(), 130) << "pushed ahead";
-  Release(start + QPoint(50, 0));
-  start = PressGrip(file);
-  DragTo(start + QPoint(100, 0));
-  EXPECT_EQ(edit->x(), 50) << "past the neighbour's end: swapped";
-  EXPECT_EQ(file->x(), 146);
-  Release(start + QPoint(100, 0));
-  start = PressGrip(edit);
-  DragTo(start + QPoint(2000, 0));
-  EXPECT_EQ(edit->x(), 130) << "File ahead is swapped first";
-  EXPECT_EQ(file->x(), 50);
-  DragTo(start + QPoint(2001, 0));
-  EXPECT_EQ(edit->x(), 600 - 96) << "then it stops at the dock's end";
-  Release(start + QPoint(2001, 0));
+TEST_F(LoadedDockTest, DraggingForwardPushesOrSwapsAndClampsAtTheEnd) {
+  TLxButtonPanel *file = Strip("File"), *edit = Strip("Edit");
+  // strip dragged, distance, then File's and Edit's x
+  const std::tuple<TLxButtonPanel*, int, int, int, const char*> steps[] = {
+      {file, 50, 50, 130, "Edit pushed ahead"},
+      {file, 100, 146, 50, "past the neighbour's end: swapped"},
+      {edit, 2000, 50, 130, "File ahead is swapped first"},
+      {edit, 2001, 50, 600 - 96, "then Edit stops at the dock's end"}};
+  QPoint start;
+  for (auto [strip, dx, fileX, editX, what] : steps) {
+    if (dx != 2001) start = PressGrip(strip);  // the last step continues the drag before it
+    DragTo(start + QPoint(dx, 0));
+    EXPECT_EQ(file->x(), fileX) << what;
+    EXPECT_EQ(edit->x(), editX) << what;
+    if (dx != 2000) Release(start + QPoint(dx, 0));
+  }
 }
 
-TEST_F(DockTest, PressOutsideTheGripStartsNoDrag) {
-  Load();
+TEST_F(LoadedDockTest, OnlyThePressOnTheGripDrags) {
   TLxButtonPanel* edit = Strip("Edit");
   const QPoint button(edit->GripLength() + 1, 10);
   QTest::mousePress(edit, Qt::LeftButton, Qt::NoModifier, button);
@@ -167,11 +189,7 @@ TEST_F(DockTest, PressOutsideTheGripStartsNoDrag) {
   EXPECT_EQ(edit->cursor().shape(), Qt::SizeAllCursor);
   SendMouse(edit, QEvent::MouseMove, edit->mapToGlobal(QPoint(40, 10)), Qt::NoButton);
   EXPECT_EQ(edit->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(DockTest, APressThatSlidesOntoTheGripStartsADrag) {
-  Load();
-  TLxButtonPanel* edit = Strip("Edit");
+  // A press elsewhere that slides onto the grip drags too.
   QTest::mousePress(canvas, Qt::LeftButton, Qt::NoModifier, QPoint(100, 5));
   SendMouse(edit, QEvent::MouseMove, edit->mapToGlobal(QPoint(2, 10)), Qt::LeftButton);
   EXPECT_TRUE(edit->GetDragging());
@@ -180,142 +198,88 @@ TEST_F(DockTest, APressThatSlidesOntoTheGripStartsADrag) {
   EXPECT_FALSE(edit->GetDragging());
 }
 
-TEST_F(DockTest, DraggingOutOfTheDockFloatsTheToolbar) {
-  Load();
-  TLxButtonPanel* edit = Strip("Edit");
-  const QPoint start = PressGrip(edit);
-  const QPoint away = host->mapToGlobal(QPoint(300, 200));
-  DragTo(away);
-  ASSERT_NE(edit->GetFloatingWindow(), nullptr);
-  EXPECT_TRUE(edit->IsFloating());
+TEST_F(LoadedDockTest, DraggingOutOfTheDockFloatsTheToolbar) {
+  TLxButtonPanel* edit = TearOffEdit();
+  const TLxFloatingToolWindow* window = edit->GetFloatingWindow();
+  ASSERT_NE(window, nullptr);
   EXPECT_TRUE(edit->isHidden());
-  EXPECT_TRUE(edit->GetFloatingWindow()->isVisible());
-  EXPECT_EQ(edit->GetFloatingWindow()->windowTitle(), "Edit");
-  EXPECT_EQ(edit->GetFloatingWindow()->size(), QSize(24 + 32 + 8 + 24, 24));
-  DragTo(away + QPoint(20, 30));
-  EXPECT_EQ(edit->GetFloatingWindow()->pos(), away + QPoint(20, 30));
-  Release(away + QPoint(20, 30));
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(window->windowTitle(), "Edit");
+  EXPECT_EQ(window->size(), QSize(24 + 32 + 8 + 24, 24));
+  DragTo(At(320, 230));
+  EXPECT_EQ(window->pos(), At(320, 230));
+  Release(At(320, 230));
   EXPECT_EQ(top->GetNumVisiblePanels(), 1);
   EXPECT_EQ(GetLxToolBar("Edit"), edit);
-  Q_UNUSED(start);
 }
 
-TEST_F(DockTest, ATornOffToolbarDroppedOnItsDockDocksAgain) {
-  Load();
-  TLxButtonPanel* edit = Strip("Edit");
-  const QPoint start = PressGrip(edit);
-  DragTo(host->mapToGlobal(QPoint(300, 200)));
-  ASSERT_TRUE(edit->IsFloating());
-  const QPoint back = host->mapToGlobal(QPoint(400, 10));
-  DragTo(back);
+TEST_F(LoadedDockTest, ATornOffToolbarDroppedOnItsDockDocksAgain) {
+  TLxButtonPanel* edit = TearOffEdit();
+  DragTo(At(400, 10));
   EXPECT_TRUE(edit->IsFloating()) << "its own dock takes no guest";
-  Release(back);
-  EXPECT_FALSE(edit->IsFloating());
-  EXPECT_FALSE(edit->isHidden());
-  EXPECT_EQ(edit->pos(), QPoint(400, 0));
+  Release(At(400, 10));
+  EXPECT_EQ(Where("Edit"), "top 400,0 96x25");
   EXPECT_FALSE(edit->GetFloatingWindow()->isVisible());
-  Q_UNUSED(start);
 }
 
-TEST_F(DockTest, DraggingIntoAnotherDockMovesTheToolbarThere) {
-  Load();
-  TLxButtonPanel* edit = Strip("Edit");
-  PressGrip(edit);
-  DragTo(host->mapToGlobal(QPoint(300, 200)));
-  const QPoint leftZone = host->mapToGlobal(QPoint(10, 100));
-  ASSERT_TRUE(left->CanDockAt(leftZone.x(), leftZone.y())) << "an empty dock still accepts";
-  DragTo(leftZone);
+TEST_F(LoadedDockTest, DraggingIntoAnotherDockMovesTheToolbarThere) {
+  TLxButtonPanel* edit = TearOffEdit();
+  ASSERT_TRUE(left->CanDockAt(At(10, 100).x(), At(10, 100).y())) << "an empty dock accepts";
+  DragTo(At(10, 100));
   EXPECT_EQ(edit->GetGuestDock(), left);
+  ASSERT_EQ(left->GetToolBars()->Count(), 1);
+  DragTo(At(300, 100));
+  EXPECT_EQ(left->GetToolBars()->Count(), 0) << "leaving the guest dock drops the copy";
+  EXPECT_TRUE(left->isHidden());
+  EXPECT_TRUE(edit->GetFloatingWindow()->isVisible());
+  DragTo(At(10, 100));
   ASSERT_NE(left->GetGuestPanel(), nullptr);
-  DragTo(leftZone + QPoint(0, 30));
-  Release(leftZone + QPoint(0, 30));
-  TLxToolBarPanel* moved = top->GetToolBar("Edit");
-  ASSERT_NE(moved, nullptr);
-  EXPECT_EQ(moved->GetDock(), left);
+  DragTo(At(10, 130));
+  Release(At(10, 130));
+  EXPECT_EQ(Where("Edit"), "left 0,105 25x96");
+  EXPECT_EQ(Docks(),
+            "top 0,0 600x25; bottom 0,357 600x43; left 0,25 25x332; right hidden 575,25 25x332; "
+            "canvas 25,25 575x332; ");
   EXPECT_EQ(top->GetToolBars()->Count(), 1);
-  EXPECT_FALSE(moved->GetPanel()->GetHorizontal());
-  EXPECT_EQ(moved->GetPanel()->size(), QSize(25, 96));
-  EXPECT_EQ(moved->GetPanel()->y(), 130 - 25);
-  EXPECT_TRUE(left->isVisible());
-  EXPECT_EQ(left->width(), 25);
   EXPECT_EQ(left->GetGuestPanel(), nullptr);
 }
 
-TEST_F(DockTest, LeavingTheGuestDockFloatsAgainAndDropsTheCopy) {
-  Load();
-  TLxButtonPanel* edit = Strip("Edit");
-  PressGrip(edit);
-  DragTo(host->mapToGlobal(QPoint(300, 200)));
-  DragTo(host->mapToGlobal(QPoint(10, 100)));
-  ASSERT_EQ(left->GetToolBars()->Count(), 1);
-  DragTo(host->mapToGlobal(QPoint(300, 100)));
-  EXPECT_EQ(left->GetToolBars()->Count(), 0);
-  EXPECT_TRUE(left->isHidden());
-  EXPECT_TRUE(edit->GetFloatingWindow()->isVisible());
-  Release(host->mapToGlobal(QPoint(300, 100)));
-  EXPECT_EQ(GetLxToolBar("Edit"), edit);
-}
-
-TEST_F(DockTest, HidingAndShowingADockedToolbar) {
-  Load();
+TEST_F(LoadedDockTest, HidingAndShowingDockedAndFloatingToolbars) {
   TLxToolBarPanel* file = top->GetToolBar("File");
+  TLxButtonPanel* strip = file->GetPanel();
   file->SetVisible(false);
-  EXPECT_FALSE(file->GetVisible());
+  EXPECT_TRUE(strip->isHidden());
   EXPECT_TRUE(file->GetWasDocked());
   EXPECT_EQ(file->GetHiddenPos(), top->mapToGlobal(QPoint(0, 0)));
-  EXPECT_TRUE(file->GetPanel()->isHidden());
-  EXPECT_FALSE(file->GetPanel()->GetFloatingWindow()->isVisible());
+  EXPECT_FALSE(strip->GetFloatingWindow()->isVisible());
   file->SetVisible(true);
-  EXPECT_FALSE(file->GetPanel()->isHidden());
-  EXPECT_FALSE(file->GetPanel()->IsFloating());
-  EXPECT_EQ(file->GetPanel()->geometry(), QRect(0, 0, 80, 25));
-  EXPECT_EQ(file->GetPanel()->GetButtons()->Items(0)->GetButton()->parentWidget(),
-            file->GetPanel());
-}
-
-TEST_F(DockTest, HidingAFloatingToolbarHidesItsWindow) {
-  Load();
-  TLxToolBarPanel* file = top->GetToolBar("File");
-  file->GetPanel()->MakeFloating(200, 200, true);
+  EXPECT_EQ(Where("File"), "top 0,0 80x25");
+  EXPECT_EQ(strip->GetButtons()->Items(0)->GetButton()->parentWidget(), strip);
+  strip->MakeFloating(200, 200, true);
   file->SetVisible(false);
   EXPECT_FALSE(file->GetWasDocked());
-  EXPECT_FALSE(file->GetPanel()->GetFloatingWindow()->isVisible());
+  EXPECT_EQ(Where("File"), "floating hidden 200,200 72x24");
   file->SetVisible(true);
-  EXPECT_TRUE(file->GetPanel()->GetFloatingWindow()->isVisible());
-  file->GetPanel()->GetFloatingWindow()->close();
+  EXPECT_EQ(Where("File"), "floating 200,200 72x24");
+  strip->GetFloatingWindow()->close();
   EXPECT_FALSE(file->GetVisible());
 }
 
-TEST_F(DockTest, AFloatingWindowDroppedOnADockDocksThere) {
-  Load();
-  TLxButtonPanel* file = Strip("File");
-  file->MakeFloating(400, 400, true);
-  const QPoint overLeft = host->mapToGlobal(QPoint(10, 150));
-  QCursor::setPos(overLeft);
-  file->GetFloatingWindow()->move(overLeft - QPoint(5, 5));
+TEST_F(LoadedDockTest, AFloatingWindowDroppedOnADockDocksThere) {
+  Strip("File")->MakeFloating(400, 400, true);
+  QCursor::setPos(At(10, 150));
+  Strip("File")->GetFloatingWindow()->move(At(300, 150));
+  QTest::qWait(400);
+  EXPECT_TRUE(Strip("File")->IsFloating()) << "moved by the program, not over the cursor";
+  Strip("File")->GetFloatingWindow()->move(At(5, 145));
   QTest::qWait(100);
-  EXPECT_EQ(top->GetToolBar("File")->GetDock(), top) << "still moving";
+  EXPECT_EQ(Where("File"), "floating 55,205 72x24") << "still moving";
   QTest::qWait(400);
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  TLxToolBarPanel* moved = top->GetToolBar("File");
-  ASSERT_NE(moved, nullptr);
-  EXPECT_EQ(moved->GetDock(), left);
-  EXPECT_FALSE(moved->GetPanel()->isHidden());
+  EXPECT_EQ(Where("File").substr(0, 7), "left 0,");
 }
 
-TEST_F(DockTest, AFloatingWindowMovedByTheProgramStaysFloating) {
-  Load();
-  TLxButtonPanel* file = Strip("File");
-  file->MakeFloating(400, 400, true);
-  QCursor::setPos(host->mapToGlobal(QPoint(10, 150)));
-  file->GetFloatingWindow()->move(host->mapToGlobal(QPoint(300, 150)));
-  QTest::qWait(400);
-  EXPECT_TRUE(file->IsFloating());
-  EXPECT_EQ(top->GetToolBar("File")->GetPanel(), file);
-}
-
-TEST_F(DockTest, ReloadingRelaysAFloatingWindow) {
-  Load();
+TEST_F(LoadedDockTest, ReloadingRelaysAFloatingWindow) {
   TLxButtonPanel* edit = Strip("Edit");
   edit->MakeFloating(300, 300, true);
   top->SetScaleFactor(2.0f);
@@ -324,11 +288,29 @@ TEST_F(DockTest, ReloadingRelaysAFloatingWindow) {
   EXPECT_EQ(edit->GetButtons()->Items(1)->GetButton()->geometry(), QRect(48, 0, 64, 48));
 }
 
+TEST_F(LoadedDockTest, DockToPlacesAlongTheDockAndEmptiedDocksHide) {
+  const std::tuple<TLxDockPanel*, int, const char*> moves[] = {
+      {bottom, 30, "bottom 0,0 96x25"},  // a horizontal dock takes pos as y
+      {bottom, 5, "bottom 0,5 96x25"},
+      {top, 300, "top 300,0 96x25"}};
+  for (auto [dock, pos, where] : moves) {
+    top->GetToolBar("Edit")->DockTo(dock, pos);
+    EXPECT_EQ(Where("Edit"), where);
+  }
+  top->GetToolBar("Edit")->DockTo(left, 0);
+  top->GetToolBar("File")->DockTo(left, 100);
+  // the top dock hides; an empty bottom dock keeps its status line
+  EXPECT_EQ(Docks(),
+            "top hidden 0,0 600x25; bottom 0,381 600x19; left 0,0 25x381; right hidden 575,0 "
+            "25x381; canvas 25,0 575x381; ");
+  EXPECT_EQ(left->GetNumVisiblePanels(), 2);
+}
+
 TEST(RegisterTest, ControlsAreOnThePalette) {
   RegisterAllComponents();
+  const auto& palette = RegisteredComponents();
   for (const char* name :
        {"TLxDockPanel", "TLxButtonPanel", "TLxMenuPanel", "TLxFloatingToolWindow"}) {
-    const auto& palette = RegisteredComponents();
     const auto entry = std::find_if(palette.begin(), palette.end(), [&](const auto& e) {
       return e.Class.ClassName == QLatin1String(name);
     });
@@ -340,78 +322,38 @@ TEST(RegisterTest, ControlsAreOnThePalette) {
   }
 }
 
-TEST_F(DockTest, DockToABottomDockTakesPosAsY) {
-  Load();
-  top->GetToolBar("Edit")->DockTo(bottom, 30);
-  TLxToolBarPanel* edit = top->GetToolBar("Edit");
-  ASSERT_EQ(edit->GetDock(), bottom);
-  EXPECT_EQ(edit->GetPanel()->pos(), QPoint(0, 0));
-  edit->DockTo(bottom, 5);
-  EXPECT_EQ(edit->GetPanel()->pos(), QPoint(0, 5));
-  edit->DockTo(top, 300);
-  edit = top->GetToolBar("Edit");
-  EXPECT_EQ(edit->GetDock(), top);
-  EXPECT_EQ(edit->GetPanel()->pos(), QPoint(300, 0));
-  EXPECT_TRUE(bottom->isVisible());
-  EXPECT_EQ(bottom->height(), 1 + bottom->GetStatusHeight()) << "an empty bottom dock";
-}
-
-TEST_F(DockTest, EmptiedTopDockHides) {
-  Load();
-  top->GetToolBar("Edit")->DockTo(left, 0);
-  top->GetToolBar("File")->DockTo(left, 100);
-  EXPECT_TRUE(top->isHidden());
-  EXPECT_EQ(left->GetNumVisiblePanels(), 2);
-  EXPECT_EQ(canvas->geometry().top(), 0);
-}
-
 // ---- saved layout ----
 
 class SavedLayoutTest : public DockTest {
  protected:
   lxtest::TempDir dir;
   QSettings store{dir.Path("layout.ini"), QSettings::IniFormat};
-  void Write(const QString& key, std::map<QString, QVariant> values) {
-    store.beginGroup(key);
-    for (const auto& [name, value] : values)
-      store.setValue(name, value);
-    store.endGroup();
+  // Writes "name=value ..." pairs under `key`, as they stand in the file.
+  void Write(const QString& key, const QString& pairs) {
+    for (const QString& pair : pairs.split(' ', Qt::SkipEmptyParts))
+      store.setValue(key + "/" + pair.section('=', 0, 0), pair.section('=', 1));
   }
-  int Read(const QString& key, const char* name) {
-    return store.value(key + "/" + name, -999).toInt();
+  QString Saved(const QString& key) {
+    QStringList pairs;
+    for (const char* name : {"dockpanel", "docked", "left", "top", "width", "height", "visible"})
+      pairs << QString("%1=%2").arg(name, store.value(key + "/" + name, "?").toString());
+    return pairs.join(' ');
   }
 };
 
-TEST_F(SavedLayoutTest, SaveWritesTheDockedPlace) {
-  Load();
-  EXPECT_EQ(top->GetToolBar("Edit")->SaveState(store, "Toolbars/Edit"), 0);
-  const std::pair<const char*, int> expected[] = {{"dockpanel", 3}, {"docked", 1}, {"left", 80},
-                                                  {"top", 0},       {"width", 96}, {"height", 25},
-                                                  {"visible", 1}};
-  for (auto [name, value] : expected)
-    EXPECT_EQ(Read("Toolbars/Edit", name), value) << name;
-}
-
-TEST_F(SavedLayoutTest, SaveOfAHiddenDockedToolbarSaysDocked) {
+TEST_F(SavedLayoutTest, SaveWritesThePlaceOfDockedHiddenAndFloatingToolbars) {
   Load();
   TLxToolBarPanel* edit = top->GetToolBar("Edit");
+  EXPECT_EQ(edit->SaveState(store, "Docked"), 0);
+  EXPECT_EQ(Saved("Docked"), "dockpanel=3 docked=1 left=80 top=0 width=96 height=25 visible=1");
   edit->SetVisible(false);
-  EXPECT_EQ(edit->SaveState(store, "Edit"), 0);
-  EXPECT_EQ(Read("Edit", "docked"), 1);
-  EXPECT_EQ(Read("Edit", "visible"), 0);
-  EXPECT_EQ(Read("Edit", "left"), 80);
-}
-
-TEST_F(SavedLayoutTest, SaveOfAFloatingToolbarWritesTheWindow) {
-  Load();
-  TLxToolBarPanel* edit = top->GetToolBar("Edit");
+  EXPECT_EQ(edit->SaveState(store, "Hidden"), 0);
+  EXPECT_EQ(Saved("Hidden"), "dockpanel=3 docked=1 left=80 top=0 width=96 height=25 visible=0");
+  edit->SetVisible(true);
   edit->GetPanel()->MakeFloating(210, 220, true);
-  EXPECT_EQ(edit->SaveState(store, "Edit"), 0);
-  EXPECT_EQ(Read("Edit", "docked"), 0);
-  EXPECT_EQ(Read("Edit", "left"), 210);
-  EXPECT_EQ(Read("Edit", "top"), 220);
-  EXPECT_EQ(Read("Edit", "width"), 88);
-  EXPECT_EQ(Read("Edit", "height"), 24);
+  EXPECT_EQ(edit->SaveState(store, "Floating"), 0);
+  EXPECT_EQ(Saved("Floating"),
+            "dockpanel=3 docked=0 left=210 top=220 width=88 height=24 visible=1");
   EXPECT_NE(edit->SaveState(store, ""), 0);
 }
 
@@ -425,96 +367,56 @@ TEST_F(SavedLayoutTest, RoundTripOfEveryToolbar) {
   top->GetToolBar("File")->DockTo(top, 200);
   for (const char* name : {"File", "Edit"})
     EXPECT_TRUE(top->GetToolBar(name)->RestoreState(store, name)) << name;
-  EXPECT_EQ(top->GetToolBar("Edit")->GetDock(), left);
-  EXPECT_EQ(top->GetToolBar("Edit")->GetPanel()->pos(), QPoint(0, 40));
-  TLxButtonPanel* file = Strip("File");
-  EXPECT_TRUE(file->IsFloating());
-  EXPECT_EQ(file->GetFloatingWindow()->pos(), QPoint(300, 310));
-  EXPECT_TRUE(file->GetFloatingWindow()->isVisible());
+  EXPECT_EQ(Where("Edit"), "left 0,40 25x96");
+  EXPECT_EQ(Where("File"), "floating 300,310 72x24");
 }
 
 struct RestoreCase {
-  const char* what;
-  std::map<QString, QVariant> values;
+  const char* saved;
   bool result;
-  QPoint editPos;  // where Edit then sits in the top dock
+  const char* where;  // where Edit then is; `result` tells the host whether to show it
 };
 
 class RestoreCases : public SavedLayoutTest, public testing::WithParamInterface<RestoreCase> {};
 
 TEST_P(RestoreCases, ResultAndPlace) {
   Load();
-  const RestoreCase& c = GetParam();
-  Write("Edit", c.values);
-  EXPECT_EQ(top->GetToolBar("Edit")->RestoreState(store, "Edit"), c.result) << c.what;
-  TLxToolBarPanel* edit = top->GetToolBar("Edit");
-  ASSERT_NE(edit, nullptr);
-  EXPECT_EQ(edit->GetDock(), top) << c.what;
-  EXPECT_EQ(edit->GetPanel()->pos(), c.editPos) << c.what;
+  Write("Edit", GetParam().saved);
+  EXPECT_EQ(top->GetToolBar("Edit")->RestoreState(store, "Edit"), GetParam().result);
+  EXPECT_EQ(Where("Edit"), GetParam().where);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, RestoreCases,
     testing::Values(
-        RestoreCase{"missing key keeps the place", {}, true, {80, 0}},
-        RestoreCase{"negative left becomes 0",
-                    {{"dockpanel", 3}, {"docked", 1}, {"left", -5}, {"height", 25}},
-                    true,
-                    {0, 0}},
-        RestoreCase{
-            "unknown dock code", {{"dockpanel", 7}, {"docked", 1}, {"left", 10}}, false, {80, 0}},
-        RestoreCase{"no dock code", {{"docked", 1}, {"left", 10}}, false, {80, 0}},
-        RestoreCase{"dock code 0", {{"dockpanel", 0}, {"docked", 1}}, false, {80, 0}},
-        RestoreCase{
-            "corrupt values fall back",
-            {{"dockpanel", 3}, {"docked", 1}, {"left", "abc"}, {"height", "x"}, {"visible", "?"}},
-            true,
-            {80, 0}},
-        RestoreCase{"values beyond 32 bits fall back",
-                    {{"dockpanel", 3}, {"docked", 1}, {"left", qlonglong(1) << 40}},
-                    true,
-                    {80, 0}},
-        RestoreCase{"hidden when saved hidden",
-                    {{"dockpanel", 3}, {"docked", 1}, {"left", 200}, {"visible", 0}},
-                    false,
-                    {200, 0}},
-        RestoreCase{"rescaled by button size",
-                    {{"dockpanel", 3}, {"docked", 1}, {"left", 100}, {"height", 50}},
-                    true,
-                    {50, 0}},
-        RestoreCase{"a wider screen's place stays inside the dock",
-                    {{"dockpanel", 3}, {"docked", 1}, {"left", 3000}, {"height", 25}},
-                    true,
-                    {600 - 96, 0}},
-        RestoreCase{"zero saved height does not divide",
-                    {{"dockpanel", 3}, {"docked", 1}, {"left", 120}, {"height", 0}},
-                    true,
-                    {120, 0}}));
+        RestoreCase{"", true, "top 80,0 96x25"},  // nothing saved: the place is kept
+        RestoreCase{"dockpanel=3 docked=1 left=-5 height=25", true, "top 0,0 96x25"},
+        RestoreCase{"dockpanel=7 docked=1 left=10", false, "top 80,0 96x25"},
+        RestoreCase{"docked=1 left=10", false, "top 80,0 96x25"},
+        RestoreCase{"dockpanel=0 docked=1", false, "top 80,0 96x25"},
+        RestoreCase{"dockpanel=3 docked=1 left=abc height=x visible=?", true, "top 80,0 96x25"},
+        RestoreCase{"dockpanel=3 docked=1 left=1099511627776", true, "top 80,0 96x25"},
+        RestoreCase{"dockpanel=3 docked=1 left=200 visible=0", false, "top 200,0 96x25"},
+        RestoreCase{"dockpanel=3 docked=1 left=100 height=50", true, "top 50,0 96x25"},
+        RestoreCase{"dockpanel=3 docked=1 left=3000 height=25", true, "top 504,0 96x25"},
+        RestoreCase{"dockpanel=3 docked=1 left=120 height=0", true, "top 120,0 96x25"}));
 
 TEST_F(SavedLayoutTest, RestoreIntoAVerticalDockRescalesByWidth) {
   left->SetButtonWidth(71);
-  AddToolBar(left, "Tall", {lxNormalButton});
+  TLxToolBarPanel* tall = AddToolBar(left, "Tall", {lxNormalButton});
   Load();
-  TLxToolBarPanel* tall = top->GetToolBar("Tall");
   ASSERT_EQ(tall->GetPanel()->width(), 72);
-  Write("Tall", {{"dockpanel", 1}, {"docked", 1}, {"top", 100}, {"width", 48}, {"height", 30}});
+  Write("Tall", "dockpanel=1 docked=1 top=100 width=48 height=30");
   EXPECT_TRUE(tall->RestoreState(store, "Tall"));
   EXPECT_EQ(tall->GetPanel()->pos(), QPoint(0, 150));
 }
 
-TEST_F(SavedLayoutTest, RestoreIntoAnotherDockFromATallerScreenStaysInside) {
+TEST_F(SavedLayoutTest, RestoreFromALargerScreenStaysInsideDockAndScreen) {
   Load();
-  Write("Edit", {{"dockpanel", 1}, {"docked", 1}, {"top", 5000}, {"width", 25}, {"height", 96}});
+  Write("Edit", "dockpanel=1 docked=1 top=5000 width=25 height=96");
   EXPECT_TRUE(top->GetToolBar("Edit")->RestoreState(store, "Edit"));
-  TLxToolBarPanel* edit = top->GetToolBar("Edit");
-  ASSERT_EQ(edit->GetDock(), left);
-  EXPECT_EQ(edit->GetPanel()->geometry(), QRect(0, left->height() - 96, 25, 96));
-  EXPECT_EQ(top->GetToolBars()->Count(), 1);
-}
-
-TEST_F(SavedLayoutTest, RestoreFromAnotherScreenKeepsTheWindowOnScreen) {
-  Load();
-  Write("Edit", {{"dockpanel", 3}, {"docked", 0}, {"left", 50000}, {"top", -300}});
+  EXPECT_EQ(Where("Edit"), "left 0,236 25x96");  // at the end of the dock
+  Write("Edit", "dockpanel=3 docked=0 left=50000 top=-300");
   EXPECT_TRUE(top->GetToolBar("Edit")->RestoreState(store, "Edit"));
   const TLxFloatingToolWindow* window = Strip("Edit")->GetFloatingWindow();
   ASSERT_NE(window, nullptr);
@@ -523,9 +425,9 @@ TEST_F(SavedLayoutTest, RestoreFromAnotherScreenKeepsTheWindowOnScreen) {
 }
 
 TEST_F(SavedLayoutTest, RestoreNeedsLoadedDocks) {
-  Write("Edit", {{"dockpanel", 3}, {"docked", 1}, {"left", 10}});
+  Write("Edit", "dockpanel=3 docked=1 left=10");
   EXPECT_FALSE(top->GetToolBar("Edit")->RestoreState(store, "Edit"));
-  Write("File", {{"dockpanel", 1}, {"docked", 1}, {"left", 10}});
+  Write("File", "dockpanel=1 docked=1 left=10");
   EXPECT_FALSE(top->GetToolBar("File")->RestoreState(store, "File"));
   EXPECT_EQ(top->GetToolBar("File")->GetDock(), top);
 }

@@ -1,3 +1,4 @@
+// The origin selector: a grid of cells picked by mouse or keys, notifying on every change.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -5,7 +6,7 @@
 #include <QTest>
 
 #include <climits>
-#include <memory>
+#include <tuple>
 
 #include "lxcomp/LxOrigin.h"
 
@@ -38,45 +39,32 @@ struct Selector {
   }
 };
 
-struct HitCase {
-  int x, y;
-  int col, row;
-  int cell;
-};
-
 TEST(TLxOrigin, ClicksPickWholeCellsAndWrapPastTheLastColumn) {
-  // 100 / 3 = 33-pixel cells; x or y of 99 lies one past the last column or row.
-  const HitCase cases[] = {
+  // x, y, hot column, hot row, cell: 100 / 3 = 33-pixel cells, 99 lies one past the last one.
+  const int cases[][5] = {
       {0, 10, 0, 0, 1},  {32, 1, 0, 0, 1},   {33, 1, 1, 0, 2},   {65, 10, 1, 0, 2},
       {66, 10, 2, 0, 3}, {98, 32, 2, 0, 3},  {99, 1, 3, 0, 4},   {50, 50, 1, 1, 5},
       {98, 98, 2, 2, 9}, {10, 99, 0, 3, 10}, {99, 99, 3, 3, 13}, {99, 66, 3, 2, 10},
   };
-  for (const HitCase& c : cases) {
+  for (const auto& c : cases) {
     Selector s;
-    s.Click(c.x, c.y);
-    EXPECT_EQ(s.origin->GetHotCol(), c.col) << c.x << "," << c.y;
-    EXPECT_EQ(s.origin->GetHotRow(), c.row) << c.x << "," << c.y;
-    EXPECT_EQ(s.origin->GetSelectedButton(), c.cell) << c.x << "," << c.y;
-    EXPECT_EQ(s.changes.count(), 1);
-    ASSERT_FALSE(s.changes.isEmpty());
+    s.Click(c[0], c[1]);
+    EXPECT_EQ(s.origin->GetHotCol(), c[2]) << c[0] << "," << c[1];
+    EXPECT_EQ(s.origin->GetHotRow(), c[3]) << c[0] << "," << c[1];
+    EXPECT_EQ(s.origin->GetSelectedButton(), c[4]) << c[0] << "," << c[1];
+    ASSERT_EQ(s.changes.count(), 1);
     EXPECT_EQ(s.changes.first().first().value<QObject*>(), s.origin);
   }
 }
 
 TEST(TLxOrigin, MouseNotifiesOnlyOnAChange) {
   Selector s;
+  QTest::mouseClick(s.origin, Qt::LeftButton, Qt::NoModifier, QPoint(70, 40));
+  EXPECT_EQ(s.origin->GetSelectedButton(), 6) << "a click without a prior move";
   s.Click(50, 50);
   s.Click(60, 60);
   EXPECT_EQ(s.origin->GetSelectedButton(), 5);
-  EXPECT_EQ(s.changes.count(), 1);
-  s.Click(10, 10);
   EXPECT_EQ(s.changes.count(), 2);
-}
-
-TEST(TLxOrigin, AClickWithoutAPriorMovePicksTheCellUnderIt) {
-  Selector s;
-  QTest::mouseClick(s.origin, Qt::LeftButton, Qt::NoModifier, QPoint(70, 40));
-  EXPECT_EQ(s.origin->GetSelectedButton(), 6);
 }
 
 TEST(TLxOrigin, PressTakesTheFocusAndShowsTheCellPressedUntilRelease) {
@@ -104,15 +92,9 @@ TEST(TLxOrigin, ReleaseAfterLeavingSelectsMinusNumCols) {
   EXPECT_EQ(s.changes.count(), 2);
 }
 
-struct KeyCase {
-  int selected;
-  Qt::Key key;
-  int expected;
-  int notifications;
-};
-
 TEST(TLxOrigin, KeysMoveTheSelectionAndAlwaysNotifyWhenTheyLeadSomewhere) {
-  const KeyCase cases[] = {
+  // selected, key, then selected, notifications
+  const std::tuple<int, Qt::Key, int, int> cases[] = {
       {0, Qt::Key_Right, 6, 1},  {0, Qt::Key_Left, 4, 1},   {0, Qt::Key_Up, 2, 1},
       {0, Qt::Key_Down, 8, 1},   {0, Qt::Key_Space, 6, 1},  {0, Qt::Key_Home, 5, 1},
       {5, Qt::Key_Home, 5, 1},   {9, Qt::Key_Space, 1, 1},  {8, Qt::Key_Space, 9, 1},
@@ -122,41 +104,33 @@ TEST(TLxOrigin, KeysMoveTheSelectionAndAlwaysNotifyWhenTheyLeadSomewhere) {
       {4, Qt::Key_End, 4, 0},    {4, Qt::Key_A, 4, 0},      {-3, Qt::Key_Right, 6, 1},
       {12, Qt::Key_Space, 1, 1}, {12, Qt::Key_Up, 9, 1},    {12, Qt::Key_Down, 12, 0},
   };
-  for (const KeyCase& c : cases) {
+  for (auto [selected, key, expected, notifications] : cases) {
     Selector s;
-    s.origin->SetSelectedButton(c.selected);
-    QTest::keyClick(s.origin, c.key);
-    EXPECT_EQ(s.origin->GetSelectedButton(), c.expected) << c.selected << " key " << c.key;
-    EXPECT_EQ(s.changes.count(), c.notifications) << c.selected << " key " << c.key;
-    EXPECT_TRUE(s.parent.keys.isEmpty()) << "key " << c.key << " was not consumed";
+    s.origin->SetSelectedButton(selected);
+    QTest::keyClick(s.origin, key);
+    EXPECT_EQ(s.origin->GetSelectedButton(), expected) << selected << " key " << key;
+    EXPECT_EQ(s.changes.count(), notifications) << selected << " key " << key;
+    EXPECT_TRUE(s.parent.keys.isEmpty()) << "key " << key << " was not consumed";
   }
-}
-
-TEST(TLxOrigin, DialogKeysPassToTheDialog) {
   Selector s;
   for (Qt::Key key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter})
     QTest::keyClick(s.origin, key);
-  EXPECT_EQ(s.parent.keys.size(), 3);
+  EXPECT_EQ(s.parent.keys.size(), 3) << "dialog keys pass to the dialog";
   EXPECT_EQ(s.changes.count(), 0);
 }
 
-struct SelectionCase {
-  int cols;
-  int selected;
-  int row, col;
-};
-
 TEST(TLxOrigin, SetSelectedButtonDerivesTheCellWithoutNotifying) {
-  const SelectionCase cases[] = {
+  const int cases[][4] = {
+      // columns, selected, row, column
       {3, 1, 0, 0},    {3, 5, 1, 1},   {3, 9, 2, 2},  {3, 4, 1, 0},   {4, 8, 1, 3},
       {3, -4, -1, -2}, {3, -1, 0, -2}, {3, 13, 4, 0}, {0, 5, -1, -1}, {-2, 5, -1, -1},
   };
-  for (const SelectionCase& c : cases) {
+  for (const auto& c : cases) {
     Selector s;
-    s.origin->SetNumCols(c.cols);
-    s.origin->SetSelectedButton(c.selected);
-    EXPECT_EQ(s.origin->GetSelRow(), c.row) << c.cols << " cols, cell " << c.selected;
-    EXPECT_EQ(s.origin->GetSelCol(), c.col) << c.cols << " cols, cell " << c.selected;
+    s.origin->SetNumCols(c[0]);
+    ASSERT_TRUE(s.origin->setProperty("SelectedButton", c[1]));
+    EXPECT_EQ(s.origin->GetSelRow(), c[2]) << c[0] << " cols, cell " << c[1];
+    EXPECT_EQ(s.origin->GetSelCol(), c[3]) << c[0] << " cols, cell " << c[1];
     EXPECT_EQ(s.changes.count(), 0);
   }
 }
@@ -172,13 +146,10 @@ TEST(TLxOrigin, DescribesTheSelectedCellToAssistiveTools) {
   EXPECT_TRUE(s.origin->GetTabStop());
 }
 
-struct BadGrid {
-  int w, h, rows, cols, selected;
-};
-
 // Every way in (mouse, keys, painting) survives grids without cells and tiny sizes.
 TEST(TLxOrigin, DegenerateGridsNeverDivideByZero) {
-  const BadGrid cases[] = {
+  const int cases[][5] = {
+      // width, height, rows, columns, selected
       {100, 100, 3, 0, 0},
       {100, 100, 0, 3, 5},
       {100, 100, -2, -3, 4},
@@ -191,47 +162,27 @@ TEST(TLxOrigin, DegenerateGridsNeverDivideByZero) {
       {100, 100, 3, 3, INT_MIN},
       {50, 50, INT_MAX, INT_MAX, INT_MIN},
   };
-  const Qt::Key keys[] = {Qt::Key_Space, Qt::Key_Home, Qt::Key_Left,
-                          Qt::Key_Right, Qt::Key_Up,   Qt::Key_Down};
-  for (const BadGrid& c : cases) {
-    Selector s(c.w, c.h);
-    s.origin->SetNumRows(c.rows);
-    s.origin->SetNumCols(c.cols);
-    s.origin->SetSelectedButton(c.selected);
-    EXPECT_EQ(s.origin->GetNumRows(), c.rows);
-    EXPECT_EQ(s.origin->GetNumCols(), c.cols);
+  for (const auto& c : cases) {
+    Selector s(c[0], c[1]);
+    s.origin->SetNumRows(c[2]);
+    s.origin->SetNumCols(c[3]);
+    s.origin->SetSelectedButton(c[4]);
     s.origin->grab();
-    for (const QPoint& p : {QPoint(0, 0), QPoint(50, 50), QPoint(99, 99)}) {
-      if (c.w > 0 && c.h > 0) s.Click(std::min(p.x(), c.w - 1), std::min(p.y(), c.h - 1));
-    }
-    for (Qt::Key key : keys)
+    for (int at : {0, 50, 99})
+      if (c[0] > 0 && c[1] > 0) s.Click(std::min(at, c[0] - 1), std::min(at, c[1] - 1));
+    for (Qt::Key key :
+         {Qt::Key_Space, Qt::Key_Home, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down})
       QTest::keyClick(s.origin, key);
-    s.origin->setFocus();
     s.origin->grab();
   }
-}
-
-TEST(TLxOrigin, GridWithoutCellsHasNoHotCellAndIgnoresKeys) {
   Selector s;
   s.origin->SetNumCols(0);
   s.Click(50, 50);
-  EXPECT_EQ(s.origin->GetHotCol(), -1);
-  EXPECT_EQ(s.origin->GetSelectedButton(), 0);
+  EXPECT_EQ(s.origin->GetHotCol(), -1) << "a grid without cells has no hot cell";
   QTest::keyClick(s.origin, Qt::Key_Home);
   EXPECT_EQ(s.origin->GetSelectedButton(), 0);
   EXPECT_EQ(s.changes.count(), 0);
-  EXPECT_TRUE(s.parent.keys.isEmpty());
-}
-
-TEST(TLxOrigin, PublishedPropertiesAreQtProperties) {
-  Selector s;
-  EXPECT_EQ(s.origin->property("NumRows").toInt(), 3);
-  EXPECT_EQ(s.origin->property("NumCols").toInt(), 3);
-  EXPECT_EQ(s.origin->property("SelectedButton").toInt(), 0);
-  EXPECT_TRUE(s.origin->setProperty("SelectedButton", 7));
-  EXPECT_EQ(s.origin->GetSelRow(), 2);
-  EXPECT_TRUE(s.origin->setProperty("Width", 60));
-  EXPECT_EQ(s.origin->width(), 60);
+  EXPECT_TRUE(s.parent.keys.isEmpty()) << "and swallows the keys";
 }
 
 }  // namespace

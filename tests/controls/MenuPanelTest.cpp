@@ -16,32 +16,23 @@ using namespace lx;
 
 namespace {
 
-TEST(MenuGeometryTest, HitTesting) {
-  const std::vector<float> widths{40.0f, 60.0f};
-  struct Row {
-    int x, title;
-  } rows[] = {{0, 0}, {49, 0}, {50, 1}, {119, 1}, {120, -1}, {500, -1}, {-3, 0}};
-  for (const Row& row : rows)
-    EXPECT_EQ(menugeometry::HitTitle(widths, 10.0f, row.x), row.title) << row.x;
+TEST(MenuGeometryTest, HitTestingAndTruncatedLeftEdges) {
+  const std::pair<int, int> hits[] = {{0, 0},    {49, 0},   {50, 1}, {119, 1},
+                                      {120, -1}, {500, -1}, {-3, 0}};  // x, title
+  for (auto [x, title] : hits)
+    EXPECT_EQ(menugeometry::HitTitle({40.0f, 60.0f}, 10.0f, x), title) << x;
   EXPECT_EQ(menugeometry::HitTitle({}, 10.0f, 0), -1);
-}
-
-TEST(MenuGeometryTest, LeftEdgesTruncateAfterEveryTitle) {
-  const std::vector<float> widths{10.6f, 10.6f, 10.6f};
-  EXPECT_EQ(menugeometry::TitleLeft(widths, 0.0f, 0), 0);
-  EXPECT_EQ(menugeometry::TitleLeft(widths, 0.0f, 1), 10);
-  EXPECT_EQ(menugeometry::TitleLeft(widths, 0.0f, 2), 20) << "not trunc(21.2)";
-  EXPECT_EQ(menugeometry::TitleLeft(widths, 0.0f, 3), 30);
-  EXPECT_EQ(menugeometry::TitleLeft(widths, 0.0f, 9), 30);
+  const std::pair<int, int> lefts[] = {{0, 0}, {1, 10}, {2, 20}, {3, 30}, {9, 30}};  // not 21.2
+  for (auto [index, left] : lefts)
+    EXPECT_EQ(menugeometry::TitleLeft({10.6f, 10.6f, 10.6f}, 0.0f, index), left) << index;
 }
 
 class MenuTest : public testing::Test {
  protected:
   void SetUp() override {
     host = std::make_unique<QWidget>();
-    host->resize(500, 200);
-    host->move(40, 30);
-    bar = new MenuPanelProbe(host.get());
+    host->setGeometry(40, 30, 500, 200);
+    bar = new TLxMenuPanel(host.get());
     bar->setGeometry(0, 0, 500, 24);
     for (const char* name : {"&File", "&Edit", "&View"}) {
       auto* popup = new QMenu(host.get());
@@ -55,7 +46,6 @@ class MenuTest : public testing::Test {
     host->activateWindow();
     QApplication::processEvents();
   }
-  void TearDown() override { host.reset(); }
 
   QPoint TitleCentre(int index) { return bar->TitleRect(index).center(); }
   // Runs `check` once the popup of `menu` shows (inside its modal loop).
@@ -68,64 +58,44 @@ class MenuTest : public testing::Test {
     });
     poll->start(10);
   }
-  QMenu* Popup(int index) { return bar->GetMenus()->Items(index)->GetPopupMenu(); }
-
-  class MenuPanelProbe : public TLxMenuPanel {
-   public:
-    using TLxMenuPanel::TLxMenuPanel;
-  };
+  TLxMenu* Menu(int index) { return bar->GetMenus()->Items(index); }
+  QMenu* Popup(int index) { return Menu(index)->GetPopupMenu(); }
   std::unique_ptr<QWidget> host;
   TLxMenuPanel* bar = nullptr;
 };
 
 TEST_F(MenuTest, MeasuresOnPaintAndRescales) {
   bar->grab();
-  EXPECT_FLOAT_EQ(bar->GetEffectiveScale(), 1.0f);
   EXPECT_EQ(bar->font().pixelSize(), 12);
   EXPECT_EQ(bar->height(), 4 + QFontMetrics(bar->font()).height());
-  const float file = bar->GetMenus()->Items(0)->GetTitleWidth();
+  const float file = Menu(0)->GetTitleWidth();
   EXPECT_FLOAT_EQ(file, QFontMetricsF(bar->font()).horizontalAdvance("File"));
   EXPECT_EQ(bar->TitleRect(1).left(), static_cast<int>(file + 10.0f));
+  bar->GetMenus()->Add()->SetName("&Help");
+  EXPECT_EQ(bar->TitleAt(bar->TitleLeft(3) + 1), 3) << "a title added later is measured";
   bar->SetTextScaleFactor(1.5f);
   bar->grab();
   EXPECT_EQ(bar->font().pixelSize(), 18);
   EXPECT_EQ(bar->height(), 6 + QFontMetrics(bar->font()).height());
-  EXPECT_GT(bar->GetMenus()->Items(0)->GetTitleWidth(), file);
+  EXPECT_GT(Menu(0)->GetTitleWidth(), file);
   EXPECT_EQ(bar->TitleAt(bar->TitleLeft(1) + 1), 1);
   bar->SetTextScaleFactor(0.0f);
   EXPECT_FLOAT_EQ(bar->GetTextScaleFactor(), 1.5f);
 }
 
-TEST_F(MenuTest, TitlesAddedLaterAreMeasured) {
-  bar->grab();
-  TLxMenu* help = bar->GetMenus()->Add();
-  help->SetName("&Help");
-  EXPECT_GT(help->GetTitleWidth(), 0.0f);
-  EXPECT_EQ(bar->TitleAt(bar->TitleLeft(3) + 1), 3);
-}
-
 TEST_F(MenuTest, HotTitleFollowsTheMouse) {
   bar->grab();
-  QTest::mouseMove(bar, TitleCentre(1));
-  EXPECT_EQ(bar->GetHotMenu(), bar->GetMenus()->Items(1));
-  EXPECT_TRUE(bar->IsTitleSelected(bar->GetMenus()->Items(1)));
-  QTest::mouseMove(bar, TitleCentre(0));
-  EXPECT_EQ(bar->GetHotMenu(), bar->GetMenus()->Items(0));
-  EXPECT_FALSE(bar->IsTitleSelected(bar->GetMenus()->Items(1)));
-  QTest::mouseMove(bar, QPoint(480, 5));
-  EXPECT_EQ(bar->GetHotMenu(), nullptr);
-  EXPECT_FALSE(bar->IsTitleSelected(bar->GetMenus()->Items(0)));
-  QTest::mouseMove(bar, TitleCentre(2));
+  const std::pair<QPoint, int> moves[] = {
+      {TitleCentre(1), 1}, {TitleCentre(0), 0}, {QPoint(480, 5), -1}, {TitleCentre(2), 2}};
+  for (auto [point, hot] : moves) {
+    QTest::mouseMove(bar, point);
+    EXPECT_EQ(bar->GetHotMenu(), hot < 0 ? nullptr : Menu(hot)) << hot;
+    for (int i = 0; i < 3; ++i)
+      EXPECT_EQ(bar->IsTitleSelected(Menu(i)), i == hot) << hot;
+  }
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(bar, &leave);
   EXPECT_EQ(bar->GetHotMenu(), nullptr);
-}
-
-TEST_F(MenuTest, DoMenuOutOfRangeDoesNothing) {
-  bar->DoMenu(-1);
-  bar->DoMenu(bar->GetMenus()->Count());
-  EXPECT_EQ(bar->GetOpenIndex(), -1);
-  EXPECT_FALSE(bar->GetTimer()->isActive());
 }
 
 TEST_F(MenuTest, DoMenuOpensThePopupBelowItsTitle) {
@@ -135,14 +105,14 @@ TEST_F(MenuTest, DoMenuOpensThePopupBelowItsTitle) {
     EXPECT_EQ(bar->GetOpenIndex(), 1);
     EXPECT_TRUE(bar->GetTimer()->isActive());
     EXPECT_EQ(bar->GetTimer()->interval(), 200);
-    EXPECT_TRUE(bar->IsTitleSelected(bar->GetMenus()->Items(1)));
+    EXPECT_TRUE(bar->IsTitleSelected(Menu(1)));
     EXPECT_EQ(Popup(1)->pos(), bar->mapToGlobal(QPoint(bar->TitleLeft(1), bar->height())));
     Popup(1)->close();
   });
   bar->DoMenu(1);
   EXPECT_TRUE(checked);
   EXPECT_FALSE(bar->GetTimer()->isActive());
-  EXPECT_FALSE(bar->IsTitleSelected(bar->GetMenus()->Items(1)));
+  EXPECT_FALSE(bar->IsTitleSelected(Menu(1)));
 }
 
 TEST_F(MenuTest, TimerHandsOverToTheTitleUnderTheMouse) {
@@ -185,11 +155,14 @@ TEST_F(MenuTest, AClickOnTheOpenTitleOnlyClosesIt) {
   EXPECT_EQ(bar->GetOpenIndex(), -1);
   EXPECT_EQ(bar->GetOpenMenu(), nullptr);
   EXPECT_FALSE(bar->GetOverOpenTitle());
-  EXPECT_FALSE(bar->IsTitleSelected(bar->GetMenus()->Items(0)));
+  EXPECT_FALSE(bar->IsTitleSelected(Menu(0)));
 }
 
-TEST_F(MenuTest, TitlesWithoutPopupsAndEmptyBarsAreSafe) {
-  bar->GetMenus()->Items(1)->SetPopupMenu(nullptr);
+TEST_F(MenuTest, BadIndicesTitlesWithoutPopupsAndEmptyBarsAreSafe) {
+  bar->DoMenu(-1);
+  bar->DoMenu(3);
+  EXPECT_EQ(bar->GetOpenIndex(), -1);
+  Menu(1)->SetPopupMenu(nullptr);
   bar->DoMenu(1);
   EXPECT_FALSE(bar->GetTimer()->isActive());
   TLxMenuCollection none;
@@ -200,7 +173,7 @@ TEST_F(MenuTest, TitlesWithoutPopupsAndEmptyBarsAreSafe) {
   bar->OnTimer();
   bar->DoMenu(0);
   bar->GetMenus()->Delete(3);
-  EXPECT_EQ(bar->GetMenus()->Items(0), nullptr);
+  EXPECT_EQ(Menu(0), nullptr);
 }
 
 }  // namespace
