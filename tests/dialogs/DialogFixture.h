@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "lxcomp/LxPlatform.h"
@@ -38,6 +39,11 @@ inline bool IsShown(QWidget* root, const QString& name) {
   return widget && widget->isVisible();
 }
 
+// Types into several fields in turn: TypeInto(dlg, {{"EditX", "1"}, {"EditY", "2"}}).
+inline void TypeInto(QWidget* root, std::initializer_list<std::pair<const char*, QString>> texts) {
+  for (const auto& [name, text] : texts)
+    TypeInto(root, name, text);
+}
 inline bool Checked(QWidget* root, const QString& name) {
   auto* button = Find<QAbstractButton>(root, name);
   return button && button->isChecked();

@@ -32,7 +32,7 @@ class ArcDlg : public lxtest::DialogTest {
 };
 
 // Runs first: the remembered mode starts as nodes mode.
-TEST_F(ArcDlg, OpensInNodesModeWithRadiiAndAnglesComputed) {
+TEST_F(ArcDlg, OpensInTheModeLastLeftWithRadiiAndAnglesComputed) {
   lx::ArcSettings record = Record(0, 0, 1000, 0, 0, 2000);
   Run(record, [](lx::TDlgArc* dlg) {
     EXPECT_EQ(dlg->windowTitle(), "Arc properties...");
@@ -52,10 +52,7 @@ TEST_F(ArcDlg, OpensInNodesModeWithRadiiAndAnglesComputed) {
     Click(dlg, "RB_VR");
     EXPECT_EQ(Field(dlg, "EditRE"), "2");
   });
-}
-
-TEST_F(ArcDlg, TheModeOfOneOpeningIsTheModeOfTheNext) {
-  lx::ArcSettings record = Record(0, 0, 1000, 0, 0, 2000, true);
+  record.ConstantRadius = true;
   Run(record, [](lx::TDlgArc* dlg) {
     EXPECT_TRUE(Checked(dlg, "BtnAngles"));
     EXPECT_EQ(Field(dlg, "EditRE"), "1");
@@ -71,9 +68,7 @@ TEST_F(ArcDlg, OkInRadiiModePlacesTheNodesOnTheRadii) {
     EXPECT_TRUE(Run(record, [&](lx::TDlgArc* dlg) {
       Click(dlg, "BtnAngles");
       Click(dlg, *endRadius ? "RB_VR" : "RB_CR");
-      TypeInto(dlg, "EditRB", "1");
-      TypeInto(dlg, "EditAB", "0");
-      TypeInto(dlg, "EditAE", "180");
+      TypeInto(dlg, {{"EditRB", "1"}, {"EditAB", "0"}, {"EditAE", "180"}});
       if (*endRadius) TypeInto(dlg, "EditRE", endRadius);
       Click(dlg, "RB_CW");
       Click(dlg, "OkButton");
@@ -93,8 +88,7 @@ TEST_F(ArcDlg, SegmentsAreAtLeastOne) {
   for (const auto& [typed, segments] : cases) {
     lx::ArcSettings record = Record(1000, 2000, 3000, 2000, 1000, 4000);
     EXPECT_TRUE(Run(record, [&](lx::TDlgArc* dlg) {
-      TypeInto(dlg, "EditNum", typed);
-      TypeInto(dlg, "EditX", "1+1");
+      TypeInto(dlg, {{"EditNum", typed}, {"EditX", "1+1"}});
       lxtest::Leave(dlg, "EditX");
       EXPECT_EQ(Field(dlg, "EditX"), "2");
       Click(dlg, "OkButton");

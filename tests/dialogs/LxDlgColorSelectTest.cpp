@@ -70,6 +70,7 @@ TEST_F(ColorSelectTest, TypedComponentsWrapOnOkWhileSlidersClamp) {
       {"EditG", "-1", 0x10ff30, "48;0;16"},    {"EditB", "255", 0xff2030, "48;32;255"},
       {"EditR", "abc", 0x102000, "48;32;16"},  {"EditR", "99999999999", 0x102000, "255;32;16"},
       {"EditB", " 7 ", 0x072030, "48;32;7"},   {"EditG", "", 0x100030, "48;32;16"},
+      {"EditB", "513", 0x012030, "48;32;255"},
   };
   for (const auto& [field, text, result, sliders] : cases) {
     SCOPED_TRACE(std::string(field) + " " + text);
@@ -83,8 +84,7 @@ TEST_F(ColorSelectTest, TypedComponentsWrapOnOkWhileSlidersClamp) {
 
 TEST_F(ColorSelectTest, ExampleShowsTheWrappedColourWhileTyping) {
   Choose(0, 0x01002c, [](QWidget* dlg) {
-    lxtest::TypeInto(dlg, "EditR", "300");
-    lxtest::TypeInto(dlg, "EditB", "513");
+    lxtest::TypeInto(dlg, {{"EditR", "300"}, {"EditB", "513"}});
     EXPECT_EQ(Example(dlg), QColor(44, 0, 1));
   });
 }

@@ -57,6 +57,14 @@ QString Shown(TDlgLayerSettings* dlg) {
       dlg->GetFillImageIndex(), dlg->GetLineImageIndex());
 }
 
+QSet<QRgb> Colours(const QImage& image, const QRect& area) {
+  QSet<QRgb> colours;
+  for (int y = area.top(); y <= area.bottom(); ++y)
+    for (int x = area.left(); x <= area.right(); ++x)
+      colours.insert(image.pixel(x, y));
+  return colours;
+}
+
 void TurnTo(QWidget* dlg, int page) {
   QTabBar* bar = Find<QTabWidget>(dlg, "PageControl1")->tabBar();
   QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(page).center());
@@ -159,9 +167,7 @@ TEST_F(LayerSettingsTest, BasicPageChecksInTheirOrder) {
     const QString before = Summary(Edited());
     const std::string what = QString("%1 %2 %3").arg(name, index, datatype).toStdString();
     const bool ok = Look([&](TDlgLayerSettings* dlg) {
-      TypeInto(dlg, "EditLayerName", name);
-      TypeInto(dlg, "EditIndex", index);
-      TypeInto(dlg, "EditDatatype", datatype);
+      TypeInto(dlg, {{"EditLayerName", name}, {"EditIndex", index}, {"EditDatatype", datatype}});
       lxtest::Click(dlg, "OkButton");
       EXPECT_EQ(dlg->isVisible(), !messages.isEmpty()) << what;
       if (dlg->isVisible()) lxtest::Click(dlg, "CancelButton");
@@ -223,9 +229,7 @@ TEST_F(LayerSettingsTest, OkWritesTheLayerAndRegeneratesEveryDefaultShortNameCan
   const QString before = Summary(Edited());
   for (const bool ok : {false, true}) {
     const auto act = [ok](TDlgLayerSettings* dlg) {
-      TypeInto(dlg, "EditLayerName", "Poly 2");
-      TypeInto(dlg, "EditIndex", "12");
-      TypeInto(dlg, "EditDatatype", "3");
+      TypeInto(dlg, {{"EditLayerName", "Poly 2"}, {"EditIndex", "12"}, {"EditDatatype", "3"}});
       TurnTo(dlg, 1);
       Toggle(dlg, "CheckBox1");
       Toggle(dlg, "RadioButtonCF");
@@ -263,29 +267,26 @@ TEST_F(LayerSettingsTest, TurningThePageChecksAndFollowsTheIndex) {
 }
 
 TEST_F(LayerSettingsTest, StyleMenusDropBelowTheirButtonsAndGiveTheirStyles) {
-  // The menu item picked, and the fill and line styles written.
-  const std::tuple<const char*, int, int, int> cases[] = {
-      {"FillStyle", 0, -1, 0}, {"FillStyle", 1, 3, 0},  {"FillStyle", 2, 2, 0},
-      {"FillStyle", 3, 5, 0},  {"FillStyle", 4, 0, 0},  {"FillStyle", 5, 1, 0},
-      {"FillStyle", 6, 4, 0},  {"FillStyle", 7, 6, 0},  {"LineStyle", 4, -1, 4},
-      {"LineStyle", 3, -1, 3}, {"LineStyle", 2, -1, 2}, {"LineStyle", 1, -1, 1},
-      {"LineStyle", 0, -1, 0}};
-  for (const auto& [kind, item, fill, line] : cases) {
-    Reset();
-    Run([&](QWidget* dlg) {
-      auto* button = Find<QToolButton>(dlg, QString(kind) + "Button");
-      lxtest::Click(dlg, button->objectName());
-      auto* menu = Find<QMenu>(dlg, QString("Popup%1s").arg(kind));
-      ASSERT_TRUE(menu->isVisible());
-      EXPECT_EQ(menu->pos(), button->mapToGlobal(QPoint(0, button->height())));
-      const QRect rect = menu->actionGeometry(menu->actions()[item]);
-      EXPECT_EQ(rect.height(), TDlgLayerSettings::StyleImageSize().height() + 3);
-      QTest::mouseClick(menu, Qt::LeftButton, {}, rect.center());
-      EXPECT_FALSE(menu->isVisible());
-      EXPECT_EQ(button->property("ImageIndex").toInt(), item);
-    });
-    EXPECT_EQ(Edited().FillStyle, fill) << kind << item;
-    EXPECT_EQ(Edited().LineStyle, line) << kind << item;
+  const int fillStyles[] = {-1, 3, 2, 5, 0, 1, 4, 6};  // of the fill menu's items
+  for (const QString kind : {"FillStyle", "LineStyle"}) {
+    for (int item = 0; item < (kind == "FillStyle" ? 8 : 5); ++item) {
+      Reset();
+      Run([&](QWidget* dlg) {
+        auto* button = Find<QToolButton>(dlg, kind + "Button");
+        lxtest::Click(dlg, button->objectName());
+        auto* menu = Find<QMenu>(dlg, "Popup" + kind + "s");
+        ASSERT_TRUE(menu->isVisible());
+        EXPECT_EQ(menu->pos(), button->mapToGlobal(QPoint(0, button->height())));
+        const QRect rect = menu->actionGeometry(menu->actions()[item]);
+        EXPECT_EQ(rect.height(), TDlgLayerSettings::StyleImageSize().height() + 3);
+        QTest::mouseClick(menu, Qt::LeftButton, {}, rect.center());
+        EXPECT_FALSE(menu->isVisible());
+        EXPECT_EQ(button->property("ImageIndex").toInt(), item);
+      });
+      const bool fill = kind == "FillStyle";
+      EXPECT_EQ(Edited().FillStyle, fill ? fillStyles[item] : -1) << kind.toStdString() << item;
+      EXPECT_EQ(Edited().LineStyle, fill ? 0 : item) << kind.toStdString() << item;
+    }
   }
 }
 
@@ -336,12 +337,10 @@ TEST_F(LayerSettingsTest, ColourPopupPicksIntoTheClickedBox) {
     EXPECT_EQ(fill->GetColor(), 0x0000ff);
     QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(30, 100));
     EXPECT_FALSE(popup->isVisible());
-    // The outline follows the fill while "Use fill color for outline" is checked.
+    // Once "Use fill color for outline" is cleared, the outline box takes its own colour.
     Toggle(dlg, "CheckBox2");
     auto* outline = Find<lx::TLxColorBox>(dlg, "PBC2");
     QTest::mouseClick(outline, Qt::LeftButton);
-    EXPECT_EQ(dlg->ColorPopup(), popup);
-    EXPECT_EQ(popup->GetTarget(), outline);
     QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(127, 127));
   });
   EXPECT_EQ(Edited().FillColor, picked);
@@ -363,9 +362,7 @@ TEST_F(LayerSettingsTest, BothBoxesOfferTheFillColourDialog) {
       },
       [](QWidget* colourDlg) {
         EXPECT_EQ(colourDlg->windowTitle(), "Select fill color...");
-        TypeInto(colourDlg, "EditR", "300");
-        TypeInto(colourDlg, "EditG", "0");
-        TypeInto(colourDlg, "EditB", "-2");
+        TypeInto(colourDlg, {{"EditR", "300"}, {"EditG", "0"}, {"EditB", "-2"}});
         lxtest::Click(colourDlg, "OkButton");
       },
       [](QWidget* dlg) { lxtest::Click(dlg, "OkButton"); },
@@ -389,46 +386,27 @@ TEST_F(LayerSettingsTest, OutlineColourDialogKeepsTheFill) {
 }
 
 TEST_F(LayerSettingsTest, ExampleMixesOverlapsLikeTheLayoutView) {
-  struct Case {
-    bool black;
-    lx::TColor fill, line;
-    int fillStyle;
-    QColor ground, crossing;
-  } cases[] = {
-      {true, 0x0000ff, 0x00ff00, -1, Qt::black, Qt::yellow},  // red | green
-      {false, 0x0000ff, 0x00ff00, -1, Qt::white, Qt::black},  // red & green
-      {false, 0x00ffff, 0xffff00, 6, Qt::white, Qt::cyan},    // hollow: outlines only
+  const QRgb red = qRgb(255, 0, 0), black = qRgb(0, 0, 0), white = qRgb(255, 255, 255);
+  // Ground, fill, outline, fill style; the colours inside the rectangle, away from the ellipse;
+  // one colour where the ellipse's outline crosses the rectangle's inside near its leftmost point.
+  const std::tuple<bool, lx::TColor, lx::TColor, int, QSet<QRgb>, QRgb> cases[] = {
+      {true, 0x0000ff, 0x00ff00, -1, {red}, qRgb(255, 255, 0)},    // red | green
+      {false, 0x0000ff, 0x00ff00, -1, {red}, black},               // red & green
+      {false, 0x00ffff, 0xffff00, 6, {white}, qRgb(0, 255, 255)},  // hollow: outlines only
+      {false, 0x0000ff, 0x0000ff, 4, {red, white}, red},           // hatch gaps keep the ground
+      {true, 0x0000ff, 0x0000ff, 4, {red, black}, red},
   };
-  for (const auto& c : cases) {
-    settings_.IsBlackBackground = c.black;
-    Edited().FillColor = c.fill;
-    Edited().LineColor = c.line;
-    Edited().FillStyle = static_cast<std::int8_t>(c.fillStyle);
+  for (const auto& [dark, fill, line, style, inside, crossing] : cases) {
+    settings_.IsBlackBackground = dark;
+    Edited().FillColor = fill;
+    Edited().LineColor = line;
+    Edited().FillStyle = static_cast<std::int8_t>(style);
     const QImage example = Example();
     ASSERT_EQ(example.size(), QSize(77, 77));
-    EXPECT_EQ(example.pixelColor(2, 2), c.ground);
-    EXPECT_EQ(example.pixelColor(74, 74), c.ground);
-    EXPECT_EQ(example.pixelColor(30, 30), c.fillStyle == 6 ? c.ground : lx::ToQColor(c.fill));
-    // The ellipse's outline crosses the inside of the rectangle at its leftmost point.
-    bool found = false;
-    for (int y = 40; y < 54 && !found; ++y)
-      for (int x = 20; x < 26 && !found; ++x)
-        found = example.pixelColor(x, y) == c.crossing;
-    EXPECT_TRUE(found) << c.black << " " << c.fillStyle;
-  }
-}
-
-TEST_F(LayerSettingsTest, HatchGapsKeepTheGroundColour) {
-  for (const bool black : {false, true}) {
-    settings_.IsBlackBackground = black;
-    Edited().FillColor = Edited().LineColor = 0x0000ff;
-    Edited().FillStyle = 4;  // cross hatch
-    const QImage example = Example();
-    QSet<QRgb> colours;
-    for (int y = 12; y < 20; ++y)
-      for (int x = 12; x < 20; ++x)
-        colours.insert(example.pixel(x, y) | 0xff000000);
-    EXPECT_EQ(colours, (QSet<QRgb>{QColor(Qt::red).rgb(), black ? 0xff000000 : 0xffffffff}));
+    EXPECT_EQ(example.pixel(2, 2), dark ? black : white);
+    EXPECT_EQ(example.pixel(74, 74), dark ? black : white);
+    EXPECT_EQ(Colours(example, {12, 12, 8, 8}), inside) << dark << " " << style;
+    EXPECT_TRUE(Colours(example, {20, 40, 6, 14}).contains(crossing)) << dark << " " << style;
   }
 }
 

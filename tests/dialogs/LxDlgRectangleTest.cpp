@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
-#include <QToolButton>
 
 #include <cmath>
 #include <vector>
@@ -60,12 +59,12 @@ class RectangleDlg : public lxtest::DialogTest {
 };
 
 // Runs first: the remembered mode and origin start as corners and centre.
-TEST_F(RectangleDlg, AFirstOpeningShowsTheCornersThenTheReferencePoint) {
+TEST_F(RectangleDlg, AFirstOpeningShowsTheCornersTheNextTheLastModeAndOrigin) {
   lx::RectangleSettings record = Record(0, 10, 20, 0, 0);
   EXPECT_FALSE(Run(record, [](lx::TDlgRectangle* dlg) {
     EXPECT_EQ(dlg->windowTitle(), "Rectangle properties...");
     EXPECT_EQ(dlg->GetHelpContext(), 4010);
-    EXPECT_TRUE(Find<QToolButton>(dlg, "ButtonCorners")->isChecked());
+    EXPECT_TRUE(lxtest::Checked(dlg, "ButtonCorners"));
     EXPECT_EQ(ShownFields(dlg), "0;0;10;20;10;20");
     EXPECT_TRUE(Captions(dlg).startsWith("(x1,y1):") && Captions(dlg).endsWith(" Height:"));
     EXPECT_FALSE(lxtest::IsShown(dlg, "EditAngle") || lxtest::IsShown(dlg, "RefSelect"));
@@ -83,12 +82,10 @@ TEST_F(RectangleDlg, AFirstOpeningShowsTheCornersThenTheReferencePoint) {
     Click(dlg, "CancelButton");
   }));
   EXPECT_EQ(CornersOf(record), (Corners{10, 20, 0, 0}));
-}
-
-TEST_F(RectangleDlg, TheModeAndOriginOfTheLastOpeningComeBack) {
-  lx::RectangleSettings record = Record(0, 0, 0, 10, 20);
+  // The mode and origin of the last opening come back.
+  record = Record(0, 0, 0, 10, 20);
   EXPECT_TRUE(Run(record, [](lx::TDlgRectangle* dlg) {
-    EXPECT_TRUE(Find<QToolButton>(dlg, "ButtonWH")->isChecked());
+    EXPECT_TRUE(lxtest::Checked(dlg, "ButtonWH"));
     EXPECT_EQ(Find<lx::TLxOrigin>(dlg, "RefSelect")->GetSelectedButton(), 1);
     EXPECT_EQ(Fields(dlg, {"EditXmin", "EditYmin"}), "0;20");
     TypeInto(dlg, "EditW", "30");  // the reference point stays; the size grows away from it
@@ -118,8 +115,7 @@ TEST_F(RectangleDlg, WidthHeightOkForEveryOrigin) {
     EXPECT_TRUE(Run(record, [&](lx::TDlgRectangle* dlg) {
       Click(dlg, "ButtonWH");
       ChooseOrigin(dlg, keys);
-      TypeInto(dlg, "EditXmin", "100");
-      TypeInto(dlg, "EditYmin", "200");
+      TypeInto(dlg, {{"EditXmin", "100"}, {"EditYmin", "200"}});
       Click(dlg, "OkButton");
     }));
     EXPECT_EQ(CornersOf(record), corners);
@@ -129,7 +125,7 @@ TEST_F(RectangleDlg, WidthHeightOkForEveryOrigin) {
 TEST_F(RectangleDlg, BoxModeTurnsTheReferencePointAndCrossesWidthAndHeight) {
   lx::RectangleSettings record = Record(1, 0, 0, 10, 20, 90);
   EXPECT_TRUE(Run(record, [](lx::TDlgRectangle* dlg) {
-    EXPECT_TRUE(Find<QToolButton>(dlg, "ButtonBox")->isChecked());
+    EXPECT_TRUE(lxtest::Checked(dlg, "ButtonBox"));
     EXPECT_EQ(Field(dlg, "EditAngle"), "90");
     EXPECT_TRUE(Find<QLineEdit>(dlg, "EditAngle")->isEnabled());
     ChooseOrigin(dlg, {Qt::Key_Down, Qt::Key_Left});
@@ -159,8 +155,7 @@ TEST_F(RectangleDlg, CornerEditsKeepTheSizeAndSwitchingModesKeepsTheCentre) {
   lx::RectangleSettings record = Record(0, 0, 0, 10, 20);
   EXPECT_TRUE(Run(record, [](lx::TDlgRectangle* dlg) {
     Click(dlg, "ButtonCorners");
-    TypeInto(dlg, "EditXmax", "-30");
-    TypeInto(dlg, "EditYmin", "2*4");
+    TypeInto(dlg, {{"EditXmax", "-30"}, {"EditYmin", "2*4"}});
     lxtest::Leave(dlg, "EditYmin");
     EXPECT_EQ(Fields(dlg, {"EditW", "EditH"}), "30;12");
     for (const char* mode :
