@@ -34,6 +34,13 @@ inline QString Caption(QWidget* root, const QString& name) {
   auto* label = Find<QLabel>(root, name);
   return label ? label->text() : QString();
 }
+// The texts of several labels, joined by ' '.
+inline QString Captions(QWidget* root, std::initializer_list<const char*> names) {
+  QStringList texts;
+  for (const char* name : names)
+    texts << Caption(root, name);
+  return texts.join(' ');
+}
 inline bool IsShown(QWidget* root, const QString& name) {
   auto* widget = Find<QWidget>(root, name);
   return widget && widget->isVisible();

@@ -133,13 +133,8 @@ TEST_F(PolygonDlg, OrientationAndTheLimitsOfTheAreaFigure) {
     ring2001.insert(ring2001.end(), {100 * std::cos(a), 100 * std::sin(a)});
   }
   const Nodes ring2000(ring2001.begin(), ring2001.end() - 2);
-  struct Case {
-    Nodes nodes;
-    const char* area;
-    const char* areaInMm2;
-    const char* type;
-  };
-  const Case cases[] = {
+  // The nodes; the area in µm² and, after a change of unit, in mm²; the orientation.
+  const std::tuple<Nodes, const char*, const char*, const char*> cases[] = {
       {{0, 0, 0, 1, 1, 1, 1, 0}, "1", "0.000001", "clockwise"},
       {{0, 0, 2, 0, 2, 2, 0, 2, 0, 0}, "4", "0.000004", "counterclockwise"},  // closed
       {{0, 0, 10, 10, 10, 0, 0, 10, 0, 0}, "--", "--", "self intersecting"},
@@ -147,14 +142,13 @@ TEST_F(PolygonDlg, OrientationAndTheLimitsOfTheAreaFigure) {
       {{0, 0, 1, 1}, "-", "-", ""},
       {ring2001, "-", "-", ""},
   };
-  for (const Case& c : cases) {
-    HostPolygon host(c.nodes);
+  for (const auto& [nodes, area, areaInMm2, type] : cases) {
+    HostPolygon host(nodes);
     Run(host, [&](lx::TDlgPolygon* dlg) {
-      EXPECT_EQ(Area(dlg), c.area) << c.nodes.size();
-      EXPECT_EQ(Caption(dlg, "LabelType"), c.type) << c.nodes.size();
-      // A missing or zero area is not rescaled by a change of unit.
+      EXPECT_EQ(Area(dlg), area) << nodes.size();
+      EXPECT_EQ(Caption(dlg, "LabelType"), type) << nodes.size();
       Find<QComboBox>(dlg, "ComboUnits")->setCurrentIndex(1);
-      EXPECT_EQ(Area(dlg), c.areaInMm2) << c.nodes.size();
+      EXPECT_EQ(Area(dlg), areaInMm2) << nodes.size();  // a missing area stays as it is
     });
   }
   HostPolygon big(ring2000);
@@ -188,13 +182,8 @@ TEST_F(PolygonDlg, EditingACellChangesTheNodeAndOkFinishesAnOpenEdit) {
 }
 
 TEST_F(PolygonDlg, DeleteInsertAddAndPasteWorkOnTheSelectedRows) {
-  struct Step {
-    int first, last;  // rows selected (from 0)
-    const char* button;
-    const char* clipboard;
-    Nodes after;
-  };
-  const Step steps[] = {
+  // The rows selected (from 0), the button, the clipboard text, the nodes afterwards.
+  const std::tuple<int, int, const char*, const char*, Nodes> steps[] = {
       {1, 2, "ButtonDelete", "", kSquare},  // would leave two nodes: nothing happens
       {1, 1, "ButtonDelete", "", {0, 0, 1, 1, 0, 1}},
       {0, 0, "ButtonDelete", "", {0, 0, 1, 1, 0, 1}},
@@ -208,11 +197,11 @@ TEST_F(PolygonDlg, DeleteInsertAddAndPasteWorkOnTheSelectedRows) {
   };
   HostPolygon host(kSquare);
   EXPECT_TRUE(Run(host, [&](lx::TDlgPolygon* dlg) {
-    for (const Step& s : steps) {
-      if (*s.clipboard) SetClipboardText(s.clipboard);
-      SelectRows(dlg, s.first, s.last);
-      Click(dlg, s.button);
-      EXPECT_EQ(DialogNodes(dlg), s.after) << s.button << " " << s.first << "-" << s.last;
+    for (const auto& [first, last, button, clipboard, after] : steps) {
+      if (*clipboard) SetClipboardText(clipboard);
+      SelectRows(dlg, first, last);
+      Click(dlg, button);
+      EXPECT_EQ(DialogNodes(dlg), after) << button << " " << first << "-" << last;
       EXPECT_EQ(GridOf(dlg)->model()->rowCount(), dlg->GetNodeCount());
     }
     EXPECT_EQ(Area(dlg), "2.5");

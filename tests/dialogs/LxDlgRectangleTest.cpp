@@ -24,12 +24,10 @@ lx::RectangleSettings Record(int kind, double x1, double y1, double x2, double y
                              int layer = 4) {
   return {kind, x1 * 1000, y1 * 1000, x2 * 1000, y2 * 1000, angle, layer, nullptr};
 }
-// The record's corners in micrometres, to the nanometre.
+// The record's corners in micrometres, to the nanometre (-0 reads as 0).
 Corners CornersOf(const lx::RectangleSettings& r) {
-  Corners out;
-  for (double v : {r.X1, r.Y1, r.X2, r.Y2})
-    out.push_back(std::round(v) / 1000 + 0.0);
-  return out;
+  const auto um = [](double nm) { return std::round(nm) / 1000 + 0.0; };
+  return {um(r.X1), um(r.Y1), um(r.X2), um(r.Y2)};
 }
 
 // The first two rows and the two size fields.
@@ -37,10 +35,7 @@ QString ShownFields(QWidget* dlg) {
   return lxtest::Fields(dlg, {"EditXmin", "EditYmin", "EditXmax", "EditYmax", "EditW", "EditH"});
 }
 QString Captions(QWidget* dlg) {
-  QStringList out;
-  for (const char* name : {"Label1", "Label2", "Label6", "Label7"})
-    out << lxtest::Caption(dlg, name);
-  return out.join(' ');
+  return lxtest::Captions(dlg, {"Label1", "Label2", "Label6", "Label7"});
 }
 
 // Moves the origin selector with its keys, as a user does: Home is the centre.
@@ -161,8 +156,7 @@ TEST_F(RectangleDlg, CornerEditsKeepTheSizeAndSwitchingModesKeepsTheCentre) {
     for (const char* mode :
          {"ButtonCorners", "ButtonWH", "ButtonCorners", "ButtonBox", "ButtonWH"}) {
       Click(dlg, mode);
-      EXPECT_DOUBLE_EQ(dlg->GetCentreX(), -15000) << mode;
-      EXPECT_DOUBLE_EQ(dlg->GetCentreY(), 14000) << mode;
+      EXPECT_EQ(QPointF(dlg->GetCentreX(), dlg->GetCentreY()), QPointF(-15000, 14000)) << mode;
     }
     Click(dlg, "ButtonCorners");
     EXPECT_EQ(ShownFields(dlg), "-30;8;0;20;30;12");
