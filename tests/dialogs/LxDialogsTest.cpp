@@ -93,20 +93,32 @@ TEST_F(Boxes, LongTextGrowsTheBoxThatThenKeepsItsHeight) {
   EXPECT_LE(text->mapTo(&longBox, QPoint(0, text->height())).y(), longBox.BottomPanel()->y());
 }
 
-TEST_F(Boxes, InputReturnsTheTextOnlyOnOk) {
-  QString text = "old";
-  for (const bool ok : {false, true}) {
-    ModalDriver::WhenModal([ok](QWidget* box) {
-      EXPECT_EQ(box->windowTitle(), "Name");
-      EXPECT_EQ(lxtest::Caption(box, "Content"), "Enter a name:");
-      EXPECT_EQ(VisibleButtons(box), ok ? "Ok Cancel Help" : "Ok Cancel");
-      EXPECT_EQ(lxtest::Field(box, "EditBox"), "old");
-      lxtest::TypeInto(box, "EditBox", "new");
-      if (ok) QTest::keyClick(Find<QLineEdit>(box, "EditBox"), Qt::Key_Return);
-      if (!ok) Click(box, "CancelButton");
-    });
-    EXPECT_EQ(lx::ShowK6InputDlg(&text, L"Name", L"Enter a name:", ok ? 5 : 0, nullptr), ok);
-    EXPECT_EQ(text, ok ? "new" : "old");
+TEST_F(Boxes, InputWritesTheTextAndTheCheckMarkOnlyOnOk) {
+  for (const bool withCheckBox : {false, true}) {
+    for (const bool ok : {false, true}) {
+      QString text = "old";
+      bool checked = false;
+      ModalDriver::WhenModal([=](QWidget* box) {
+        EXPECT_EQ(box->windowTitle(), "Name");
+        EXPECT_EQ(lxtest::Caption(box, "Content"), "Enter a name:");
+        EXPECT_EQ(VisibleButtons(box), ok ? "Ok Cancel Help" : "Ok Cancel");
+        EXPECT_EQ(lxtest::Field(box, "EditBox"), "old");
+        auto* cb = Find<QCheckBox>(box, "CB");
+        EXPECT_EQ(cb->isVisible() ? cb->text() : "hidden", withCheckBox ? "Open it" : "hidden");
+        QTest::mouseClick(cb, Qt::LeftButton, {}, QPoint(6, cb->height() / 2));  // the box
+        lxtest::TypeInto(box, "EditBox", "new");
+        ok ? QTest::keyClick(Find<QLineEdit>(box, "EditBox"), Qt::Key_Return)
+           : Click(box, "CancelButton");
+      });
+      const int help = ok ? 5 : 0;
+      EXPECT_EQ(withCheckBox
+                    ? lx::ShowK6InputDlgWithCheckBox(&text, &checked, L"Name", L"Enter a name:",
+                                                     L"Open it", help, nullptr)
+                    : lx::ShowK6InputDlg(&text, L"Name", L"Enter a name:", help, nullptr),
+                ok);
+      EXPECT_EQ(text, ok ? "new" : "old");
+      EXPECT_EQ(checked, ok && withCheckBox);
+    }
   }
   ModalDriver::WhenModal([](QWidget* box) { box->close(); });
   EXPECT_FALSE(lx::ShowK6InputDlg(nullptr, nullptr, nullptr, 0, nullptr));
@@ -126,23 +138,6 @@ TEST_F(Boxes, AllowedCharactersFilterTyping) {
     });
     EXPECT_TRUE(lx::ShowK6InputDlg(&text, L"Copies", L"How many?", 0, allowed));
     EXPECT_EQ(text, result);
-  }
-}
-
-TEST_F(Boxes, CheckBoxIsWrittenOnlyOnOk) {
-  for (const bool ok : {false, true}) {
-    QString text = "x";
-    bool checked = false;
-    ModalDriver::WhenModal([ok](QWidget* box) {
-      auto* cb = Find<QCheckBox>(box, "CB");
-      EXPECT_TRUE(cb->isVisible());
-      EXPECT_EQ(cb->text(), "Open it");
-      QTest::mouseClick(cb, Qt::LeftButton, {}, QPoint(6, cb->height() / 2));  // the box
-      Click(box, ok ? "OkButton" : "CancelButton");
-    });
-    EXPECT_EQ(lx::ShowK6InputDlgWithCheckBox(&text, &checked, L"T", L"Q", L"Open it", 0, nullptr),
-              ok);
-    EXPECT_EQ(checked, ok);
   }
 }
 
