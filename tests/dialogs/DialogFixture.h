@@ -4,15 +4,64 @@
 
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
+#include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "lxcomp/LxPlatform.h"
 #include "support/ModalDriver.h"
 
 namespace lxtest {
+
+// What a field or a label shows, and whether a control is on screen.
+inline QString Field(QWidget* root, const QString& name) {
+  auto* edit = Find<QLineEdit>(root, name);
+  return edit ? edit->text() : QString();
+}
+// The texts of several fields, joined by ';'.
+inline QString Fields(QWidget* root, std::initializer_list<const char*> names) {
+  QStringList texts;
+  for (const char* name : names)
+    texts << Field(root, name);
+  return texts.join(';');
+}
+inline QString Caption(QWidget* root, const QString& name) {
+  auto* label = Find<QLabel>(root, name);
+  return label ? label->text() : QString();
+}
+// The texts of several labels, joined by ' '.
+inline QString Captions(QWidget* root, std::initializer_list<const char*> names) {
+  QStringList texts;
+  for (const char* name : names)
+    texts << Caption(root, name);
+  return texts.join(' ');
+}
+inline bool IsShown(QWidget* root, const QString& name) {
+  auto* widget = Find<QWidget>(root, name);
+  return widget && widget->isVisible();
+}
+
+// Types into several fields in turn: TypeInto(dlg, {{"EditX", "1"}, {"EditY", "2"}}).
+inline void TypeInto(QWidget* root, std::initializer_list<std::pair<const char*, QString>> texts) {
+  for (const auto& [name, text] : texts)
+    TypeInto(root, name, text);
+}
+inline bool Checked(QWidget* root, const QString& name) {
+  auto* button = Find<QAbstractButton>(root, name);
+  return button && button->isChecked();
+}
+// Flips a check box or radio button from the keyboard, as a user does.
+inline void Toggle(QWidget* root, const QString& name) {
+  if (auto* button = Find<QAbstractButton>(root, name)) {
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
+  }
+}
 
 class DialogTest : public ::testing::Test {
  protected:
@@ -45,6 +94,20 @@ class DialogTest : public ::testing::Test {
       texts << m.text;
     }
     return texts;
+  }
+
+  // Schedules `act` on the dialog `open` shows, runs `open`, and cancels a dialog left open.
+  template <class Dlg>
+  static bool Drive(const std::function<bool()>& open, const std::function<void(Dlg*)>& act) {
+    ModalDriver::WhenModal([&](QWidget* w) {
+      auto* dlg = qobject_cast<Dlg*>(w);
+      if (!dlg) return ADD_FAILURE() << "not a " << Dlg::staticMetaObject.className(), void();
+      act(dlg);
+      if (dlg->isVisible()) dlg->reject();
+    });
+    const bool result = open();
+    EXPECT_FALSE(ModalDriver::TakeFailure());
+    return result;
   }
 
   QWidget main_;

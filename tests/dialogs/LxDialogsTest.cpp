@@ -2,7 +2,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 
@@ -26,48 +25,44 @@ class Boxes : public lxtest::DialogTest {
   }
 };
 
-// The visible buttons of a box, left to right.
-QStringList VisibleButtons(QWidget* box) {
-  QList<QPushButton*> buttons;
-  for (auto* b : box->findChildren<QPushButton*>())
-    if (b->isVisible()) buttons.append(b);
+// The visible buttons of a box, left to right, without the "Button" of their names.
+QString VisibleButtons(QWidget* box) {
+  QList<QPushButton*> buttons = box->findChildren<QPushButton*>();
+  buttons.removeIf([](QPushButton* b) { return !b->isVisible(); });
   std::sort(buttons.begin(), buttons.end(), [](auto* a, auto* b) { return a->x() < b->x(); });
   QStringList names;
   for (auto* b : buttons)
-    names << b->objectName();
-  return names;
+    names << b->objectName().chopped(6);
+  return names.join(' ');
+}
+// Presses a button, or Escape.
+void Press(QWidget* box, const QString& button) {
+  if (button == "Escape") return QTest::keyClick(box, Qt::Key_Escape);
+  Click(box, button + "Button");
 }
 
 TEST_F(Boxes, MessageKindsChooseCaptionButtonsAndResult) {
-  struct Case {
-    int kind, help;
-    QString caption;
-    QStringList buttons;
-    const char* press;
-    int result;
+  const std::tuple<int, int, const char*, const char*, int> cases[] = {
+      {-1, 0, "Ok", "Ok", lx::mrOk},
+      {-1, 0, "Ok", "Escape", lx::mrCancel},
+      {0, 0, "Ok Cancel", "Cancel", lx::mrCancel},
+      {0, 0, "Ok Cancel", "Escape", lx::mrCancel},
+      {1, 0, "Yes No", "No", lx::mrNo},
+      {1, 0, "Yes No", "Escape", lx::mrNo},
+      {2, 0, "Yes No Cancel", "Yes", lx::mrYes},
+      {2, 0, "Yes No Cancel", "Escape", lx::mrCancel},
+      {2, 1234, "Yes No Cancel Help", "No", lx::mrNo},
+      {5, 7, "Ok Help", "Ok", lx::mrOk},
   };
-  const Case cases[] = {
-      {-1, 0, "Korvet 6 - Error", {"OkButton"}, "OkButton", lx::mrOk},
-      {0, 0, "Korvet 6", {"OkButton", "CancelButton"}, "CancelButton", lx::mrCancel},
-      {1, 0, "Korvet 6", {"YesButton", "NoButton"}, "NoButton", lx::mrNo},
-      {2, 0, "Korvet 6", {"YesButton", "NoButton", "CancelButton"}, "YesButton", lx::mrYes},
-      {2,
-       1234,
-       "Korvet 6",
-       {"YesButton", "NoButton", "CancelButton", "HelpButton"},
-       "NoButton",
-       lx::mrNo},
-      {5, 7, "Korvet 6", {"OkButton", "HelpButton"}, "OkButton", lx::mrOk},
-  };
-  for (const Case& c : cases) {
+  for (const auto& [kind, help, buttons, press, result] : cases) {
     ModalDriver::WhenModal([&](QWidget* box) {
-      EXPECT_EQ(box->windowTitle(), c.caption);
-      EXPECT_EQ(VisibleButtons(box), c.buttons) << c.kind;
-      EXPECT_EQ(Find<QLabel>(box, "Content")->text(), "Is <b>this</b> shown?");
-      Click(box, c.press);
+      EXPECT_EQ(box->windowTitle(), kind < 0 ? "Korvet 6 - Error" : "Korvet 6");
+      EXPECT_EQ(VisibleButtons(box), buttons) << kind;
+      EXPECT_EQ(lxtest::Caption(box, "Content"), "Is <b>this</b> shown?");
+      Press(box, press);
     });
-    EXPECT_EQ(lx::ShowK6Message(QStringLiteral("Is <b>this</b> shown?"), c.kind, c.help), c.result)
-        << c.kind;
+    EXPECT_EQ(lx::ShowK6Message(QStringLiteral("Is <b>this</b> shown?"), kind, help), result)
+        << kind << " " << press;
   }
 }
 
@@ -85,89 +80,64 @@ TEST_F(Boxes, ButtonsCloseUpToTheRightWithoutHelp) {
   EXPECT_EQ(withHelp.GetHelpContext(), 1234);
 }
 
-TEST_F(Boxes, EscapePressesTheVisibleCancelButton) {
-  const std::pair<int, int> cases[] = {
-      {-1, lx::mrCancel}, {0, lx::mrCancel}, {1, lx::mrNo}, {2, lx::mrCancel}};
-  for (const auto& [kind, result] : cases) {
-    ModalDriver::WhenModal([](QWidget* box) { QTest::keyClick(box, Qt::Key_Escape); });
-    EXPECT_EQ(lx::ShowK6Message(L"q", kind, 0), result) << kind;
-  }
-}
-
 TEST_F(Boxes, LongTextGrowsTheBoxThatThenKeepsItsHeight) {
   lx::TLxDlgError shortBox(&main_, L"Short.", 0, 0);
-  const QString longText =
-      QString("A long message that has to wrap over several lines. ").repeated(8);
-  lx::TLxDlgError longBox(&main_, longText, 0, 0);
+  lx::TLxDlgError longBox(&main_, QString("A long message that has to wrap. ").repeated(12), 0, 0);
   longBox.show();
   EXPECT_GT(longBox.height(), shortBox.height());
-  EXPECT_GE(longBox.Content()->height(),
-            longBox.Content()->heightForWidth(longBox.Content()->width()));
+  QLabel* text = longBox.Content();
+  EXPECT_GE(text->height(), text->heightForWidth(text->width()));
   longBox.resize(longBox.width(), 50);
   EXPECT_GE(longBox.height(), longBox.minimumHeight());
   EXPECT_GT(longBox.minimumHeight(), shortBox.minimumHeight());
-  const QRect text = longBox.Content()->geometry();
-  EXPECT_LE(longBox.Content()->mapTo(&longBox, QPoint(0, text.height())).y(),
-            longBox.BottomPanel()->y());
+  EXPECT_LE(text->mapTo(&longBox, QPoint(0, text->height())).y(), longBox.BottomPanel()->y());
 }
 
-TEST_F(Boxes, InputReturnsTheTextOnlyOnOk) {
-  QString text = "old";
-  ModalDriver::WhenModal([](QWidget* box) {
-    EXPECT_EQ(box->windowTitle(), "Name");
-    EXPECT_EQ(Find<QLabel>(box, "Content")->text(), "Enter a name:");
-    EXPECT_FALSE(Find<QPushButton>(box, "HelpButton")->isVisible());
-    lxtest::TypeInto(box, "EditBox", "new");
-    Click(box, "CancelButton");
-  });
-  EXPECT_FALSE(lx::ShowK6InputDlg(&text, L"Name", L"Enter a name:", 0, nullptr));
-  EXPECT_EQ(text, "old");
-  ModalDriver::WhenModal([](QWidget* box) {
-    EXPECT_EQ(Find<QLineEdit>(box, "EditBox")->text(), "old");
-    lxtest::TypeInto(box, "EditBox", "new");
-    QTest::keyClick(Find<QLineEdit>(box, "EditBox"), Qt::Key_Return);
-  });
-  EXPECT_TRUE(lx::ShowK6InputDlg(&text, L"Name", L"Enter a name:", 5, nullptr));
-  EXPECT_EQ(text, "new");
+TEST_F(Boxes, InputWritesTheTextAndTheCheckMarkOnlyOnOk) {
+  for (const bool withCheckBox : {false, true}) {
+    for (const bool ok : {false, true}) {
+      QString text = "old";
+      bool checked = false;
+      ModalDriver::WhenModal([=](QWidget* box) {
+        EXPECT_EQ(box->windowTitle(), "Name");
+        EXPECT_EQ(lxtest::Caption(box, "Content"), "Enter a name:");
+        EXPECT_EQ(VisibleButtons(box), ok ? "Ok Cancel Help" : "Ok Cancel");
+        EXPECT_EQ(lxtest::Field(box, "EditBox"), "old");
+        auto* cb = Find<QCheckBox>(box, "CB");
+        EXPECT_EQ(cb->isVisible() ? cb->text() : "hidden", withCheckBox ? "Open it" : "hidden");
+        QTest::mouseClick(cb, Qt::LeftButton, {}, QPoint(6, cb->height() / 2));  // the box
+        lxtest::TypeInto(box, "EditBox", "new");
+        ok ? QTest::keyClick(Find<QLineEdit>(box, "EditBox"), Qt::Key_Return)
+           : Click(box, "CancelButton");
+      });
+      const int help = ok ? 5 : 0;
+      EXPECT_EQ(withCheckBox
+                    ? lx::ShowK6InputDlgWithCheckBox(&text, &checked, L"Name", L"Enter a name:",
+                                                     L"Open it", help, nullptr)
+                    : lx::ShowK6InputDlg(&text, L"Name", L"Enter a name:", help, nullptr),
+                ok);
+      EXPECT_EQ(text, ok ? "new" : "old");
+      EXPECT_EQ(checked, ok && withCheckBox);
+    }
+  }
   ModalDriver::WhenModal([](QWidget* box) { box->close(); });
   EXPECT_FALSE(lx::ShowK6InputDlg(nullptr, nullptr, nullptr, 0, nullptr));
 }
 
 TEST_F(Boxes, AllowedCharactersFilterTyping) {
-  QString text;
-  ModalDriver::WhenModal([](QWidget* box) {
-    auto* edit = Find<QLineEdit>(box, "EditBox");
-    edit->setFocus();
-    QTest::keyClicks(edit, "1a2-b3");
-    EXPECT_EQ(edit->text(), "123");
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    EXPECT_EQ(edit->text(), "12");
-    QTest::keyClick(edit, Qt::Key_Enter);
-  });
-  EXPECT_TRUE(lx::ShowK6InputDlg(&text, L"Copies", L"How many?", 0, L"0123456789"));
-  EXPECT_EQ(text, "12");
-  ModalDriver::WhenModal([](QWidget* box) {
-    QTest::keyClicks(Find<QLineEdit>(box, "EditBox"), "any text");
-    Click(box, "OkButton");
-  });
-  EXPECT_TRUE(lx::ShowK6InputDlg(&text, L"Any", L"Anything:", 0, L""));
-  EXPECT_EQ(text, "any text");
-}
-
-TEST_F(Boxes, CheckBoxIsWrittenOnlyOnOk) {
-  for (const bool ok : {false, true}) {
-    QString text = "x";
-    bool checked = false;
-    ModalDriver::WhenModal([ok](QWidget* box) {
-      auto* cb = Find<QCheckBox>(box, "CB");
-      EXPECT_TRUE(cb->isVisible());
-      EXPECT_EQ(cb->text(), "Open it");
-      QTest::mouseClick(cb, Qt::LeftButton, {}, QPoint(6, cb->height() / 2));  // the box
-      Click(box, ok ? "OkButton" : "CancelButton");
+  const std::tuple<const wchar_t*, const char*, const char*> cases[] = {
+      {L"0123456789", "1a2-b3", "12"}, {L"", "any text", "any tex"}};
+  for (const auto& [allowed, typed, result] : cases) {
+    QString text;
+    ModalDriver::WhenModal([&](QWidget* box) {
+      auto* edit = Find<QLineEdit>(box, "EditBox");
+      edit->setFocus();
+      QTest::keyClicks(edit, typed);
+      QTest::keyClick(edit, Qt::Key_Backspace);
+      QTest::keyClick(edit, Qt::Key_Enter);
     });
-    EXPECT_EQ(lx::ShowK6InputDlgWithCheckBox(&text, &checked, L"T", L"Q", L"Open it", 0, nullptr),
-              ok);
-    EXPECT_EQ(checked, ok);
+    EXPECT_TRUE(lx::ShowK6InputDlg(&text, L"Copies", L"How many?", 0, allowed));
+    EXPECT_EQ(text, result);
   }
 }
 
@@ -175,8 +145,8 @@ TEST_F(Boxes, ComboBoxInputOffersOnlyOk) {
   QString text;
   QStringList items{"NAND2", "NOR2", "INV"};
   ModalDriver::WhenModal([](QWidget* box) {
-    EXPECT_EQ(VisibleButtons(box), QStringList({"OkButton", "HelpButton"}));
-    EXPECT_FALSE(Find<QLineEdit>(box, "EditBox")->isVisible());
+    EXPECT_EQ(VisibleButtons(box), "Ok Help");
+    EXPECT_FALSE(lxtest::IsShown(box, "EditBox"));
     auto* combo = Find<QComboBox>(box, "ComboBox");
     EXPECT_EQ(combo->currentText(), "NAND2");
     combo->setCurrentIndex(2);
@@ -190,20 +160,19 @@ TEST_F(Boxes, ComboBoxInputOffersOnlyOk) {
 
 TEST_F(Boxes, OverwriteListsTheNames) {
   QStringList names{"NAND2", "PAD"};
-  ModalDriver::WhenModal([](QWidget* box) {
-    EXPECT_EQ(box->windowTitle(), "Replace existing symbols?");
-    auto* list = Find<QListWidget>(box, "ListBox1");
-    ASSERT_EQ(list->count(), 2);
-    EXPECT_EQ(list->item(1)->text(), "PAD");
-    EXPECT_EQ(VisibleButtons(box), QStringList({"OkButton", "CancelButton"}));
-    Click(box, "OkButton");
-  });
-  EXPECT_EQ(lx::ShowOverwriteMessage(&names, 0), lx::mrOk);
-  ModalDriver::WhenModal([](QWidget* box) {
-    EXPECT_EQ(VisibleButtons(box), QStringList({"OkButton", "CancelButton", "HelpButton"}));
-    QTest::keyClick(box, Qt::Key_Escape);
-  });
-  EXPECT_EQ(lx::ShowOverwriteMessage(nullptr, 4200), lx::mrCancel);
+  for (const int help : {0, 4200}) {
+    ModalDriver::WhenModal([help](QWidget* box) {
+      EXPECT_EQ(box->windowTitle(), "Replace existing symbols?");
+      QStringList listed;
+      for (auto* item : Find<QListWidget>(box, "ListBox1")->findItems("*", Qt::MatchWildcard))
+        listed << item->text();
+      EXPECT_EQ(listed.join(' '), help ? "" : "NAND2 PAD");
+      EXPECT_EQ(VisibleButtons(box), help ? "Ok Cancel Help" : "Ok Cancel");
+      Press(box, help ? "Escape" : "Ok");
+    });
+    EXPECT_EQ(lx::ShowOverwriteMessage(help ? nullptr : &names, help),
+              help ? lx::mrCancel : lx::mrOk);
+  }
 }
 
 }  // namespace
