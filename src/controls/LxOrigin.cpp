@@ -272,6 +272,12 @@ void TLxOrigin::paintEvent(QPaintEvent*) {
 
 void TLxOrigin::mouseMoveEvent(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
+  // Moves outside arrive only while a pressed button holds the mouse: it has left the control
+  // (the leave event itself comes only after the release).
+  if (!rect().contains(at)) {
+    if (HotCol != -1 || HotRow != -1) CMMouseExit();
+    return;
+  }
   MouseMove(event->modifiers(), at.x(), at.y());
 }
 

@@ -90,6 +90,13 @@ TEST(TLxOrigin, ReleaseAfterLeavingSelectsMinusNumCols) {
   EXPECT_EQ(s.origin->GetSelectedButton(), -4);
   EXPECT_EQ(s.origin->GetSelCol(), -1);
   EXPECT_EQ(s.changes.count(), 2);
+  // Dragged out with the button held: the mouse has left before the release as well.
+  s.Click(30, 30);
+  QTest::mousePress(s.origin, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+  QTest::mouseMove(s.origin, QPoint(150, 60));
+  EXPECT_EQ(s.origin->GetHotCol(), -1);
+  QTest::mouseRelease(s.origin, Qt::LeftButton, Qt::NoModifier, QPoint(150, 60));
+  EXPECT_EQ(s.origin->GetSelectedButton(), -4);
 }
 
 TEST(TLxOrigin, KeysMoveTheSelectionAndAlwaysNotifyWhenTheyLeadSomewhere) {
