@@ -345,8 +345,10 @@ void TDlgRectangle::OkButtonClick(QObject*) {
       x2 = h;
       y2 = w;
     } else {
-      const int col = (lastOrigin - 1) % 3;
-      const int row = (lastOrigin - 1) / 3;
+      // While the selector holds no cell (a release outside it), the point shown is the centre.
+      const int origin = IsOrigin(Origin()) ? lastOrigin : 5;
+      const int col = (origin - 1) % 3;
+      const int row = (origin - 1) / 3;
       x1 = col == 0 ? x : col == 1 ? x - w / 2 : x - w;
       x2 = x1 + w;
       y2 = row == 0 ? y : row == 1 ? y + h / 2 : y + h;

@@ -201,4 +201,20 @@ TEST_F(RectangleDlg, TheLayerIsWrittenOnlyWhenOneIsSelected) {
   }
 }
 
+TEST_F(RectangleDlg, AReleaseOutsideTheSelectorLeavesTheCentreAsReferencePoint) {
+  lx::RectangleSettings record = Record(0, 0, 0, 10, 4);
+  EXPECT_TRUE(Run(record, [](lx::TDlgRectangle* dlg) {
+    Click(dlg, "ButtonWH");
+    ChooseOrigin(dlg, {Qt::Key_Up, Qt::Key_Left});
+    auto* origin = Find<lx::TLxOrigin>(dlg, "RefSelect");
+    QTest::mousePress(origin, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QTest::mouseMove(origin, QPoint(-20, 5));
+    QTest::mouseRelease(origin, Qt::LeftButton, Qt::NoModifier, QPoint(-20, 5));
+    EXPECT_EQ(Fields(dlg, {"EditXmin", "EditYmin"}), "5;2");
+    TypeInto(dlg, {{"EditXmin", "100"}, {"EditYmin", "200"}});
+    Click(dlg, "OkButton");
+  }));
+  EXPECT_EQ(CornersOf(record), (Corners{95, 198, 105, 202}));
+}
+
 }  // namespace
