@@ -136,10 +136,12 @@ void TLxTabControl::Paint() {
   int x = 0;
   for (int i = 0; i < static_cast<int>(TabWidths.size()) && x < width(); ++i) {
     const int w = TabWidths[static_cast<size_t>(i)];
+    // Edges computed in fractions of the margin and cut to whole pixels only at the end.
     if (i == TabIndex)
-      PaintTab(painter, i, QRect(x, 0, w, height() - margin));
+      PaintTab(painter, i, QRect(x, 0, w, static_cast<int>(height() - TabMargin)));
     else
-      PaintTab(painter, i, QRect(x, margin, w, height() - 3 * margin));
+      PaintTab(painter, i,
+               QRect(x, margin, w, static_cast<int>(height() - 2.0 * TabMargin) - margin));
     x += w;
   }
 }
