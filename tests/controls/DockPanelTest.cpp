@@ -265,6 +265,19 @@ TEST_F(LoadedDockTest, HidingAndShowingDockedAndFloatingToolbars) {
   EXPECT_FALSE(file->GetVisible());
 }
 
+TEST_F(DockTest, AVerticalToolbarKeepsItsButtonSizeWhenHiddenAndFloatedAgain) {
+  TLxToolBarPanel* tools = AddToolBar(left, "Tools", {lxDropDown, lxSeparator, lxNormalButton});
+  Load();
+  tools->SetVisible(false);
+  tools->SetVisible(true);
+  EXPECT_EQ(Where("Tools"), "left 0,0 25x72");
+  EXPECT_EQ(left->width(), 25);
+  tools->GetPanel()->MakeFloating(200, 200, true);
+  tools->GetPanel()->MakeFloating(220, 200, true);  // as when a drag leaves a guest dock
+  EXPECT_EQ(Where("Tools"), "floating 220,200 64x24");
+  EXPECT_EQ(tools->GetButtons()->Items(1)->GetButton()->geometry(), QRect(32, 0, 8, 24));
+}
+
 TEST_F(LoadedDockTest, AFloatingWindowDroppedOnADockDocksThere) {
   Strip("File")->MakeFloating(400, 400, true);
   QCursor::setPos(At(10, 150));
