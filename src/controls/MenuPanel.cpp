@@ -103,7 +103,8 @@ void TLxMenuPanel::SetHotColor(TColor color) {
 }
 
 void TLxMenuPanel::SetTextScaleFactor(float factor) {
-  if (factor == TextScaleFactor || !(factor > 0.0f)) return;
+  // Beyond a hundredfold text no title fits a screen, and the measuring would overflow.
+  if (factor == TextScaleFactor || !(factor > 0.0f && factor <= 100.0f)) return;
   TextScaleFactor = factor;
   update();
 }

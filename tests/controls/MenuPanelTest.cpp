@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 #include "controls/MenuGeometry.h"
@@ -79,7 +80,8 @@ TEST_F(MenuTest, MeasuresOnPaintAndRescales) {
   EXPECT_EQ(bar->height(), 6 + QFontMetrics(bar->font()).height());
   EXPECT_GT(Menu(0)->GetTitleWidth(), file);
   EXPECT_EQ(bar->TitleAt(bar->TitleLeft(1) + 1), 1);
-  bar->SetTextScaleFactor(0.0f);
+  for (float bad : {0.0f, 1e30f, std::numeric_limits<float>::infinity()})
+    bar->SetTextScaleFactor(bad);
   EXPECT_FLOAT_EQ(bar->GetTextScaleFactor(), 1.5f);
 }
 
