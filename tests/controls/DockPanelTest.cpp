@@ -9,6 +9,7 @@
 #include <QSettings>
 #include <QTest>
 
+#include <climits>
 #include <memory>
 
 #include "lxcomp/DockPanel.h"
@@ -469,6 +470,7 @@ TEST_F(DockTest, EmptyToolbarsAndDocksAreSafe) {
   lonely.Show();
   lonely.SetSize(0);
   lonely.SetSize(-100);
+  lonely.SetSize(INT_MAX);
   lonely.MakeRoom(0, 100);
   EXPECT_FALSE(lonely.CanDockAt(0, 0) && lonely.size().isEmpty());
   EXPECT_EQ(lonely.GetNumVisiblePanels(), 0);
