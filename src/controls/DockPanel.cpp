@@ -411,7 +411,11 @@ bool TLxToolBarPanel::RestoreState(QSettings& store, const QString& key) {
     }
     if (Panel->IsFloating()) {
       const QPoint screen = Dock->mapToGlobal(place);
-      Panel->MakeDocked(Dock, screen.x(), screen.y());
+      // A hidden toolbar stays hidden; showing it docks it at the restored place.
+      if (Visible)
+        Panel->MakeDocked(Dock, screen.x(), screen.y());
+      else
+        HiddenPos = screen;
     } else {
       Panel->move(place);
     }

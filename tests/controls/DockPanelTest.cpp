@@ -438,6 +438,17 @@ TEST_F(SavedLayoutTest, RestoreFromALargerScreenStaysInsideDockAndScreen) {
   EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(SavedLayoutTest, AHiddenToolbarIsRestoredHiddenAndShownAtItsRestoredPlace) {
+  Load();
+  TLxToolBarPanel* edit = top->GetToolBar("Edit");
+  edit->SetVisible(false);
+  Write("Edit", "dockpanel=3 docked=1 left=300 height=25 visible=0");
+  EXPECT_FALSE(edit->RestoreState(store, "Edit"));
+  EXPECT_TRUE(edit->GetPanel()->isHidden());
+  edit->SetVisible(true);
+  EXPECT_EQ(Where("Edit"), "top 300,0 96x25");
+}
+
 TEST_F(SavedLayoutTest, RestoreNeedsLoadedDocks) {
   Write("Edit", "dockpanel=3 docked=1 left=10");
   EXPECT_FALSE(top->GetToolBar("Edit")->RestoreState(store, "Edit"));
