@@ -335,8 +335,9 @@ void TLxMenuPanel::OnTimer() {
   if (hit == OpenIndex || hit < 0) return;
   NextIndex = hit;
   NextMenu = Menus->Items(hit);
-  // Closing the open popup ends its loop; the open loop then opens the next title.
-  if (OpenMenu && OpenMenu->GetPopupMenu()) OpenMenu->GetPopupMenu()->close();
+  // Closing the open popup ends its loop; the open loop then opens the next title. The host
+  // may have removed the open title meanwhile.
+  if (Menus->IndexOf(OpenMenu) >= 0 && OpenMenu->GetPopupMenu()) OpenMenu->GetPopupMenu()->close();
 }
 
 void TLxMenuPanel::CMMouseExit() {

@@ -160,6 +160,19 @@ TEST_F(MenuTest, AClickOnTheOpenTitleOnlyClosesIt) {
   EXPECT_FALSE(bar->IsTitleSelected(Menu(0)));
 }
 
+TEST_F(MenuTest, ATitleRemovedWhileItsMenuIsOpenIsNotTouched) {
+  QMenu *file = Popup(0), *view = Popup(2);
+  WhenOpen(file, [&] {
+    bar->GetMenus()->Delete(0);
+    WhenOpen(view, [&] { view->close(); });
+    QCursor::setPos(bar->mapToGlobal(TitleCentre(1)));  // the title of View now
+    bar->OnTimer();
+    file->close();
+  });
+  bar->DoMenu(0);
+  EXPECT_EQ(bar->GetOpenMenu(), Menu(1));
+}
+
 TEST_F(MenuTest, BadIndicesTitlesWithoutPopupsAndEmptyBarsAreSafe) {
   bar->DoMenu(-1);
   bar->DoMenu(3);
