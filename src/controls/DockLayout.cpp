@@ -8,6 +8,13 @@
 namespace lx::docklayout {
 namespace {
 
+// Positions and sizes far beyond any screen are cut to this, so that sums never overflow.
+constexpr int kFar = 1 << 28;
+
+int Bounded(int value) {
+  return std::clamp(value, -kFar, kFar);
+}
+
 int End(const QRect& rect, bool horizontal) {
   return Start(rect, horizontal) + Length(rect, horizontal);
 }
@@ -90,10 +97,12 @@ void SetStart(QRect& rect, bool horizontal, int start) {
 
 int MoveStrip(Dock& dock, int index, int pos, bool swap) {
   if (index < 0 || index >= static_cast<int>(dock.strips.size())) return 0;
-  return Move(dock, index, pos, swap, 0);
+  return Move(dock, index, Bounded(pos), swap, 0);
 }
 
 void MakeRoom(Dock& dock, int pos, int size) {
+  pos = Bounded(pos);
+  size = Bounded(size);
   const bool h = dock.horizontal;
   for (size_t i = 0; i < dock.strips.size(); ++i) {
     const QRect& rect = dock.strips[i].rect;

@@ -208,7 +208,7 @@ bool TLxDockPanel::CanDockAt(int x, int y) const {
 void TLxDockPanel::SetSize(int size) {
   LastSize = size;
   // An empty dock keeps one pixel (and a bottom dock its status line).
-  const int thickness = std::max(size + 1, 1);
+  const int thickness = std::clamp(size, 0, QWIDGETSIZE_MAX) + 1;
   if (Horizontal)
     resize(width(), thickness + (Align == alBottom ? StatusHeight : 0));
   else
@@ -411,7 +411,11 @@ bool TLxToolBarPanel::RestoreState(QSettings& store, const QString& key) {
     }
     if (Panel->IsFloating()) {
       const QPoint screen = Dock->mapToGlobal(place);
-      Panel->MakeDocked(Dock, screen.x(), screen.y());
+      // A hidden toolbar stays hidden; showing it docks it at the restored place.
+      if (Visible)
+        Panel->MakeDocked(Dock, screen.x(), screen.y());
+      else
+        HiddenPos = screen;
     } else {
       Panel->move(place);
     }

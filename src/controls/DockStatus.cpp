@@ -5,6 +5,8 @@
 #include <QStyleOption>
 #include <QTimer>
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cwchar>
 
@@ -38,7 +40,12 @@ QRect Band(int left, int top, int right, int bottom) {
 void PrintMicrons(const wchar_t* prefix, double value, wchar_t* out, int size) {
   if (!out || size <= 0) return;
   const QString head = prefix ? QString::fromWCharArray(prefix) : QString();
-  CopyOut(head + QString::number(value / 1000.0, 'f', 6), out, size);
+  // Six decimals rounded as printf's "%.6f" in the C locale (exact halves to even).
+  char digits[400];
+  const auto printed =
+      std::to_chars(digits, digits + sizeof digits, value / 1000.0, std::chars_format::fixed, 6);
+  const qsizetype count = printed.ec == std::errc() ? printed.ptr - digits : 0;
+  CopyOut(head + QString::fromLatin1(digits, count), out, size);
   // Trailing zeros of the fraction go, and the decimal point with them when nothing follows.
   const size_t headLength = std::min(static_cast<size_t>(head.size()), std::wcslen(out));
   wchar_t* number = out + headLength;
@@ -113,7 +120,8 @@ QRect TLxDockPanel::ProgressRect() const {
 }
 
 void TLxDockPanel::SetScaleFactor(float factor) {
-  if (factor == ScaleFactor || !(factor > 0.0f)) return;
+  // Beyond a hundredfold text no field fits a screen, and the field arithmetic would overflow.
+  if (factor == ScaleFactor || !(factor > 0.0f && factor <= 100.0f)) return;
   ScaleFactor = factor;
   update();
 }
@@ -238,8 +246,10 @@ void TLxDockPanel::PaintProgress(QPainter& painter) {
   painter.fillRect(area, background);
   painter.setPen(QPen(QColor(0x80, 0x80, 0x80), (top + bottom) / 8, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(area.left() + k, mid, right - k, mid);
-  const int end = static_cast<int>(
-      static_cast<double>(right - area.left() - 2 * k) * Progress / 100.0 + area.left() + k);
+  // Percentages beyond 0 ... 100 run the bar out of the (clipped) band, and no further.
+  const double reach =
+      static_cast<double>(right - area.left() - 2 * k) * Progress / 100.0 + area.left() + k;
+  const int end = static_cast<int>(std::clamp<double>(reach, area.left() - k, right + k));
   painter.setPen(QPen(bar, k, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(area.left() + k, mid, end, mid);
   painter.restore();

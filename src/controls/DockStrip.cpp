@@ -161,7 +161,10 @@ int TLxButtonPanel::GetActualButtonSize(int& size) const {
     size = Horizontal ? ButtonHeight : ButtonWidth;
     return Buttons->Count();
   }
-  size = Horizontal ? controls.first()->height() : controls.first()->width();
+  // In the floating window the buttons stand in a horizontal row, whatever the strip's axis.
+  const TLxButton* first = controls.first();
+  const bool inRow = FloatingWindow && first->parentWidget() == FloatingWindow;
+  size = Horizontal || inRow ? first->height() : first->width();
   return Buttons->Count();
 }
 
@@ -301,7 +304,9 @@ void TLxButtonPanel::FreeGuestDock() {
 void TLxButtonPanel::LayOutFloatingButtons(int size) {
   int x = 0;
   for (TLxButton* button : ButtonControls()) {
-    const QSize extent = Horizontal ? button->size() : button->size().transposed();
+    // Buttons already in the row (floated again from a guest dock) are not turned again.
+    const bool inRow = button->parentWidget() == FloatingWindow;
+    const QSize extent = Horizontal || inRow ? button->size() : button->size().transposed();
     button->setParent(FloatingWindow);
     button->setGeometry(x, 0, extent.width(), extent.height());
     button->show();

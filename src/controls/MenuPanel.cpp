@@ -103,7 +103,8 @@ void TLxMenuPanel::SetHotColor(TColor color) {
 }
 
 void TLxMenuPanel::SetTextScaleFactor(float factor) {
-  if (factor == TextScaleFactor || !(factor > 0.0f)) return;
+  // Beyond a hundredfold text no title fits a screen, and the measuring would overflow.
+  if (factor == TextScaleFactor || !(factor > 0.0f && factor <= 100.0f)) return;
   TextScaleFactor = factor;
   update();
 }
@@ -334,8 +335,9 @@ void TLxMenuPanel::OnTimer() {
   if (hit == OpenIndex || hit < 0) return;
   NextIndex = hit;
   NextMenu = Menus->Items(hit);
-  // Closing the open popup ends its loop; the open loop then opens the next title.
-  if (OpenMenu && OpenMenu->GetPopupMenu()) OpenMenu->GetPopupMenu()->close();
+  // Closing the open popup ends its loop; the open loop then opens the next title. The host
+  // may have removed the open title meanwhile.
+  if (Menus->IndexOf(OpenMenu) >= 0 && OpenMenu->GetPopupMenu()) OpenMenu->GetPopupMenu()->close();
 }
 
 void TLxMenuPanel::CMMouseExit() {

@@ -58,6 +58,8 @@ const MoveCase kMoves[] = {
     {400, {{100, 50}, {150, 50}, {200, 50}}, 2, 120, false, 120, {20, 70, 120}},  // through a row
     {400, {{10, 50}, {60, 50}, {110, 50}}, 2, 0, false, 100, {0, 50, 100}},   // row stops at 0
     {300, {{0, 50}}, 3, 10, false, 0, {0}},                                   // bad index
+    {300, {{0, 50}, {50, 50}}, 0, INT_MAX, false, 200, {200, 250}},           // far beyond
+    {300, {{0, 50}, {50, 50}}, 1, INT_MIN, true, 0, {50, 0}},
 };
 // clang-format on
 
@@ -101,6 +103,8 @@ const RoomCase kRooms[] = {
     {300, {{0, 50}}, 20, 0, {20}},                        // zero size pushes to pos
     {300, {}, 20, 50, {}},                                // no strips
     {300, {{0, 50}, {60, 50}}, 10, 100, {0, 60}, {0, 1}}, // hidden strips stay
+    {300, {{0, 50}}, INT_MAX, INT_MAX, {0}},              // far beyond: nothing to clear
+    {300, {{0, 50}}, INT_MIN, INT_MAX, {0}},
 };
 // clang-format on
 

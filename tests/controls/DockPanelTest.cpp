@@ -9,6 +9,7 @@
 #include <QSettings>
 #include <QTest>
 
+#include <climits>
 #include <memory>
 
 #include "lxcomp/DockPanel.h"
@@ -265,6 +266,19 @@ TEST_F(LoadedDockTest, HidingAndShowingDockedAndFloatingToolbars) {
   EXPECT_FALSE(file->GetVisible());
 }
 
+TEST_F(DockTest, AVerticalToolbarKeepsItsButtonSizeWhenHiddenAndFloatedAgain) {
+  TLxToolBarPanel* tools = AddToolBar(left, "Tools", {lxDropDown, lxSeparator, lxNormalButton});
+  Load();
+  tools->SetVisible(false);
+  tools->SetVisible(true);
+  EXPECT_EQ(Where("Tools"), "left 0,0 25x72");
+  EXPECT_EQ(left->width(), 25);
+  tools->GetPanel()->MakeFloating(200, 200, true);
+  tools->GetPanel()->MakeFloating(220, 200, true);  // as when a drag leaves a guest dock
+  EXPECT_EQ(Where("Tools"), "floating 220,200 64x24");
+  EXPECT_EQ(tools->GetButtons()->Items(1)->GetButton()->geometry(), QRect(32, 0, 8, 24));
+}
+
 TEST_F(LoadedDockTest, AFloatingWindowDroppedOnADockDocksThere) {
   Strip("File")->MakeFloating(400, 400, true);
   QCursor::setPos(At(10, 150));
@@ -424,6 +438,17 @@ TEST_F(SavedLayoutTest, RestoreFromALargerScreenStaysInsideDockAndScreen) {
   EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(SavedLayoutTest, AHiddenToolbarIsRestoredHiddenAndShownAtItsRestoredPlace) {
+  Load();
+  TLxToolBarPanel* edit = top->GetToolBar("Edit");
+  edit->SetVisible(false);
+  Write("Edit", "dockpanel=3 docked=1 left=300 height=25 visible=0");
+  EXPECT_FALSE(edit->RestoreState(store, "Edit"));
+  EXPECT_TRUE(edit->GetPanel()->isHidden());
+  edit->SetVisible(true);
+  EXPECT_EQ(Where("Edit"), "top 300,0 96x25");
+}
+
 TEST_F(SavedLayoutTest, RestoreNeedsLoadedDocks) {
   Write("Edit", "dockpanel=3 docked=1 left=10");
   EXPECT_FALSE(top->GetToolBar("Edit")->RestoreState(store, "Edit"));
@@ -456,6 +481,7 @@ TEST_F(DockTest, EmptyToolbarsAndDocksAreSafe) {
   lonely.Show();
   lonely.SetSize(0);
   lonely.SetSize(-100);
+  lonely.SetSize(INT_MAX);
   lonely.MakeRoom(0, 100);
   EXPECT_FALSE(lonely.CanDockAt(0, 0) && lonely.size().isEmpty());
   EXPECT_EQ(lonely.GetNumVisiblePanels(), 0);

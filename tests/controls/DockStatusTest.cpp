@@ -7,7 +7,9 @@
 #include <QStyle>
 #include <QTest>
 
+#include <climits>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <tuple>
 
@@ -26,7 +28,8 @@ TEST(StatusTextTest, MicronsAndGridValues) {
       {L"", 0.001, 64, "0.000001"},   {L"", 0.0004, 64, "0"},
       {L"x: ", 12500, 7, "x: 12"},    {L"x: ", 12500, 6, "x: 12"},
       {L"x: ", 10000, 6, "x: 10"},    {L"x: ", 12500, 1, ""},
-      {nullptr, 2500, 64, "2.5"},     {L"", 123456789012.0, 64, "123456789.012"}};
+      {nullptr, 2500, 64, "2.5"},     {L"", 123456789012.0, 64, "123456789.012"},
+      {L"", 7.8125, 64, "0.007812"}};  // an exact half rounds to even
   for (auto [prefix, value, size, text] : microns) {
     wchar_t out[64];
     std::fill(std::begin(out), std::end(out), L'#');
@@ -128,8 +131,8 @@ TEST_F(StatusTest, FieldsFromTheRightEdge) {
   QApplication::processEvents();
   EXPECT_EQ(dock->GetStatusHeight(), 27);
   EXPECT_EQ(dock->height(), 25 + 27);
-  dock->SetScaleFactor(0.0f);
-  dock->SetScaleFactor(-2.0f);
+  for (float bad : {0.0f, -2.0f, 1e30f, std::numeric_limits<float>::infinity()})
+    dock->SetScaleFactor(bad);
   EXPECT_EQ(dock->GetScaleFactor(), 1.5f);
 }
 
@@ -166,6 +169,10 @@ TEST_F(StatusTest, ProgressBarAndItsRemoval) {
     EXPECT_EQ(picture.pixelColor(r.left() + k + 5, mid), blue) << percent;
     EXPECT_EQ(picture.pixelColor(barEnd(percent) - 2, mid), blue) << percent;
     EXPECT_EQ(picture.pixelColor(barEnd(percent) + k, mid), grey) << percent;
+  }
+  for (int wild : {INT_MIN, INT_MAX}) {  // drawn without overflow
+    dock->SetProgress(wild);
+    Picture();
   }
   ExpectRepaint([&] { dock->SetProgress(100); }, r);
   const QImage picture = Picture();

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 #include "controls/MenuGeometry.h"
@@ -79,7 +80,8 @@ TEST_F(MenuTest, MeasuresOnPaintAndRescales) {
   EXPECT_EQ(bar->height(), 6 + QFontMetrics(bar->font()).height());
   EXPECT_GT(Menu(0)->GetTitleWidth(), file);
   EXPECT_EQ(bar->TitleAt(bar->TitleLeft(1) + 1), 1);
-  bar->SetTextScaleFactor(0.0f);
+  for (float bad : {0.0f, 1e30f, std::numeric_limits<float>::infinity()})
+    bar->SetTextScaleFactor(bad);
   EXPECT_FLOAT_EQ(bar->GetTextScaleFactor(), 1.5f);
 }
 
@@ -156,6 +158,19 @@ TEST_F(MenuTest, AClickOnTheOpenTitleOnlyClosesIt) {
   EXPECT_EQ(bar->GetOpenMenu(), nullptr);
   EXPECT_FALSE(bar->GetOverOpenTitle());
   EXPECT_FALSE(bar->IsTitleSelected(Menu(0)));
+}
+
+TEST_F(MenuTest, ATitleRemovedWhileItsMenuIsOpenIsNotTouched) {
+  QMenu *file = Popup(0), *view = Popup(2);
+  WhenOpen(file, [&] {
+    bar->GetMenus()->Delete(0);
+    WhenOpen(view, [&] { view->close(); });
+    QCursor::setPos(bar->mapToGlobal(TitleCentre(1)));  // the title of View now
+    bar->OnTimer();
+    file->close();
+  });
+  bar->DoMenu(0);
+  EXPECT_EQ(bar->GetOpenMenu(), Menu(1));
 }
 
 TEST_F(MenuTest, BadIndicesTitlesWithoutPopupsAndEmptyBarsAreSafe) {
