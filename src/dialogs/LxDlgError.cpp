@@ -21,7 +21,6 @@ QPushButton* AddButton(QWidget* panel, QPushButton* before, const char* name, co
   auto* button = new QPushButton(text, panel);
   button->setObjectName(QLatin1String(name));
   button->setMinimumSize(before->minimumSize());
-  button->setAutoDefault(false);
   auto* row = static_cast<QBoxLayout*>(panel->layout());
   row->insertWidget(row->indexOf(before), button);
   QObject::connect(button, &QPushButton::clicked, dialog,

@@ -35,9 +35,14 @@ QString VisibleButtons(QWidget* box) {
     names << b->objectName().chopped(6);
   return names.join(' ');
 }
-// Presses a button, or Escape.
+// Presses a button, Escape, or Enter on a button that has the focus ("Enter No").
 void Press(QWidget* box, const QString& button) {
   if (button == "Escape") return QTest::keyClick(box, Qt::Key_Escape);
+  if (button.startsWith("Enter ")) {
+    auto* focused = Find<QPushButton>(box, button.mid(6) + "Button");
+    focused->setFocus();
+    return QTest::keyClick(focused, Qt::Key_Return);
+  }
   Click(box, button + "Button");
 }
 
@@ -49,6 +54,7 @@ TEST_F(Boxes, MessageKindsChooseCaptionButtonsAndResult) {
       {0, 0, "Ok Cancel", "Escape", lx::mrCancel},
       {1, 0, "Yes No", "No", lx::mrNo},
       {1, 0, "Yes No", "Escape", lx::mrNo},
+      {1, 0, "Yes No", "Enter No", lx::mrNo},
       {2, 0, "Yes No Cancel", "Yes", lx::mrYes},
       {2, 0, "Yes No Cancel", "Escape", lx::mrCancel},
       {2, 1234, "Yes No Cancel Help", "No", lx::mrNo},
