@@ -39,7 +39,7 @@ QString Captions(QWidget* dlg) {
 }
 
 // Moves the origin selector with its keys, as a user does: Home is the centre.
-void ChooseOrigin(QWidget* dlg, std::initializer_list<Qt::Key> keys) {
+void ChooseOrigin(QWidget* dlg, const std::vector<Qt::Key>& keys) {
   auto* origin = Find<lx::TLxOrigin>(dlg, "RefSelect");
   QTest::keyClick(origin, Qt::Key_Home);
   for (Qt::Key key : keys)
@@ -94,7 +94,7 @@ TEST_F(RectangleDlg, AFirstOpeningShowsTheCornersTheNextTheLastModeAndOrigin) {
 
 TEST_F(RectangleDlg, WidthHeightOkForEveryOrigin) {
   // Reference point (100, 200), width 10, height 4: the corners for origins 1 to 9.
-  const std::pair<std::initializer_list<Qt::Key>, Corners> cases[] = {
+  const std::pair<std::vector<Qt::Key>, Corners> cases[] = {
       {{Qt::Key_Up, Qt::Key_Left}, {100, 196, 110, 200}},
       {{Qt::Key_Up}, {95, 196, 105, 200}},
       {{Qt::Key_Up, Qt::Key_Right}, {90, 196, 100, 200}},
