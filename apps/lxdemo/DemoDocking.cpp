@@ -2,26 +2,13 @@
 // status line and the menu bar.
 #include <QAction>
 #include <QMenu>
-#include <QPainter>
 
 #include "DemoRegistry.h"
+#include "GlyphIcon.h"
 #include "lxcomp/DockPanel.h"
 #include "lxcomp/MenuPanel.h"
 
 namespace {
-
-QIcon Glyph(const QString& glyph, const QPalette& palette) {
-  QPixmap pixmap(40, 40);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  QFont font = painter.font();
-  font.setPixelSize(32);
-  font.setBold(true);
-  painter.setFont(font);
-  painter.setPen(palette.color(QPalette::ButtonText));
-  painter.drawText(pixmap.rect(), Qt::AlignCenter, glyph);
-  return QIcon(pixmap);
-}
 
 void AddToolBar(lx::TLxDockPanel* dock, const QString& name, const QStringList& glyphs) {
   lx::TLxToolBarPanel* toolBar = dock->GetToolBars()->Add();
@@ -32,7 +19,7 @@ void AddToolBar(lx::TLxDockPanel* dock, const QString& name, const QStringList& 
       button->SetButtonType(lx::lxSeparator);
       continue;
     }
-    auto* action = new QAction(Glyph(glyph, dock->palette()), glyph, dock);
+    auto* action = new QAction(GlyphIcon(glyph, dock->palette()), glyph, dock);
     button->SetAction(action);
     if (glyph == QLatin1String("+")) {
       button->SetButtonType(lx::lxDropDown);

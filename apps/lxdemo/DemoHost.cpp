@@ -6,13 +6,13 @@
 #include <QDockWidget>
 #include <QGuiApplication>
 #include <QMap>
-#include <QPainter>
 #include <QSettings>
 #include <QShortcut>
 #include <QTimer>
 #include <QWheelEvent>
 
 #include "DemoRegistry.h"
+#include "GlyphIcon.h"
 #include "LayoutCanvas.h"
 #include "lxcomp/DockPanel.h"
 #include "lxcomp/MenuPanel.h"
@@ -20,21 +20,6 @@
 namespace {
 
 const char* const kToolBarNames[] = {"View", "Job", "Draw"};
-
-// A toolbar picture drawn from a glyph in the palette's text colour, so it reads in dark too.
-QIcon GlyphIcon(const QString& glyph, const QPalette& palette) {
-  QPixmap pixmap(40, 40);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  QFont font = painter.font();
-  font.setPixelSize(32);
-  font.setBold(true);
-  painter.setFont(font);
-  painter.setPen(palette.color(QPalette::ButtonText));
-  painter.drawText(pixmap.rect(), Qt::AlignCenter, glyph);
-  return QIcon(pixmap);
-}
 
 lx::TLxToolBarPanel* AddToolBar(lx::TLxDockPanel* dock, const QString& name) {
   lx::TLxToolBarPanel* toolBar = dock->GetToolBars()->Add();

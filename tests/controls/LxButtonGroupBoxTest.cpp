@@ -9,16 +9,11 @@
 #include <QToolButton>
 
 #include "lxcomp/LxButtonGroupBox.h"
+#include "support/KeyRecorder.h"
 
 namespace {
 
-class KeyRecorder : public QWidget {
- public:
-  QList<int> keys;
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override { keys.append(event->key()); }
-};
+using lxtest::KeyRecorder;
 
 // A group of 30 x 30 speed buttons laid out in `columns` columns.
 struct Group {

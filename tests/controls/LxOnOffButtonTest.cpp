@@ -4,16 +4,11 @@
 #include <QTest>
 
 #include "lxcomp/LxOnOffButton.h"
+#include "support/KeyRecorder.h"
 
 namespace {
 
-class KeyRecorder : public QWidget {
- public:
-  QList<int> keys;
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override { keys.append(event->key()); }
-};
+using lxtest::KeyRecorder;
 
 struct Fixture {
   KeyRecorder parent;

@@ -9,17 +9,11 @@
 #include <tuple>
 
 #include "lxcomp/LxOrigin.h"
+#include "support/KeyRecorder.h"
 
 namespace {
 
-// A parent that records the keys its child let through.
-class KeyRecorder : public QWidget {
- public:
-  QList<int> keys;
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override { keys.append(event->key()); }
-};
+using lxtest::KeyRecorder;
 
 struct Selector {
   KeyRecorder parent;
